@@ -120,33 +120,32 @@ void TavikButton::initStyleProperties(Type type)
 
 void TavikButton::updateStyleSheet()
 {
-    Sheet::set(
-        this,
-        {
-            {"TavikButton {color: ", m_color},
-            {";font-size: ", m_fontSz},
-            {"px;background-color: ", m_bgColor},
-            {";border: ", m_borderWidth},
-            {"px solid ", m_borderColor},
-            {";margin: ", m_margin},
-            {"px;padding: 0.1em;border-radius: ", m_borderRadius},
-            {"px;}TavikButton:checked {color: ", m_checkedColor},
-            {";background-color: ", m_checkedBgColor},
-            {";border: ", m_borderWidth},
-            {"px solid ", m_checkedBorderColor},
-            {";}TavikButton:hover, TavikButton:hover:checked, TavikButton:hover:unchecked {color: ",
-             m_hoverColor},
-            {";background-color: ", m_hoverBgColor},
-            {";border: ", m_borderWidth},
-            {"px solid ", m_hoverBorderColor},
-            {";}TavikButton:pressed, TavikButton:pressed:checked, TavikButton:pressed:unchecked {color: ",
-             m_pressColor},
-            {";background-color: ", m_pressBgColor},
-            {";border: ", m_borderWidth},
-            {"px solid ", m_pressBorderColor},
-            {";}TavikButton:disabled {color: ", QStringLiteral("#909090")},
-            {";}"},
-        });
+    const Sheet::Table sheet = {
+        {"TavikButton {color: ", m_color},
+        {";font-size: ", m_fontSz},
+        {"px;background-color: ", m_bgColor},
+        {";border: ", m_borderWidth},
+        {"px solid ", m_borderColor},
+        {";margin: ", m_margin},
+        {"px;padding: 0.1em;border-radius: ", m_borderRadius},
+        {"px;}TavikButton:checked {color: ", m_checkedColor},
+        {";background-color: ", m_checkedBgColor},
+        {";border: ", m_borderWidth},
+        {"px solid ", m_checkedBorderColor},
+        {";}TavikButton:hover, TavikButton:hover:checked, TavikButton:hover:unchecked {color: ",
+         m_hoverColor},
+        {";background-color: ", m_hoverBgColor},
+        {";border: ", m_borderWidth},
+        {"px solid ", m_hoverBorderColor},
+        {";}TavikButton:pressed, TavikButton:pressed:checked, TavikButton:pressed:unchecked {color: ",
+         m_pressColor},
+        {";background-color: ", m_pressBgColor},
+        {";border: ", m_borderWidth},
+        {"px solid ", m_pressBorderColor},
+        {";}TavikButton:disabled {color: ", QStringLiteral("#909090")},
+        {";}"},
+    };
+    Sheet::set(this, sheet);
 }
 
 void TavikButton::setFontRemSz(double rem)

@@ -37,12 +37,13 @@ void TavikLabel::initStyleProperties(Type type)
 
 void TavikLabel::updateStyleSheet()
 {
-    Sheet::set(this, {
-                         {"TavikLabel{color: ", m_color},
-                         {";font-size: ", m_fontSz},
-                         {"px;padding: 0.1em;}TavikLabel:disabled{color: ", m_disabledColor},
-                         {";}"},
-                     });
+    const Sheet::Table sheet = {
+        {"TavikLabel{color: ", m_color},
+        {";font-size: ", m_fontSz},
+        {"px;padding: 0.1em;}TavikLabel:disabled{color: ", m_disabledColor},
+        {";}"},
+    };
+    Sheet::set(this, sheet);
 }
 
 QString TavikLabel::color() const

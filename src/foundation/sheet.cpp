@@ -2,7 +2,7 @@
 
 #include <QWidget>
 
-QString Sheet::join(std::initializer_list<Row> rows)
+QString Sheet::join(Table rows)
 {
     QString sheet;
     sheet.reserve(1536);
@@ -13,7 +13,7 @@ QString Sheet::join(std::initializer_list<Row> rows)
     return sheet;
 }
 
-void Sheet::set(QWidget *widget, std::initializer_list<Row> rows)
+void Sheet::set(QWidget *widget, Table rows)
 {
     // A widget's first sheet is parsed at once, and parsed again when the widget is polished. A blank
     // takes the place of the first, so that the real one is parsed only once.

@@ -16,12 +16,15 @@ struct Row
     QString value = {};
 };
 
+/// A whole style sheet, row by row.
+using Table = std::initializer_list<Row>;
+
 /// The rows from top to bottom as one text, with nothing between them. Values are never searched for
 /// place markers, so they may hold anything.
-QString join(std::initializer_list<Row> rows);
+QString join(Table rows);
 
 /// Joins the rows and sets them on the widget, whether the sheet differs from the present one or not.
-void set(QWidget *widget, std::initializer_list<Row> rows);
+void set(QWidget *widget, Table rows);
 
 } // namespace Sheet
 
