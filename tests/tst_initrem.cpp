@@ -1,0 +1,73 @@
+#include "support.h"
+
+#include <Tavik/LenConverter>
+
+#include <QProcess>
+
+#include <cstdio>
+#include <cstring>
+
+/// The rem that a real screen of a given width leads to. Each row starts an X server of its own and, on
+/// it, this program once more, which then only prints what initRem() chose.
+class TestInitRem : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void bands_data();
+    void bands();
+};
+
+void TestInitRem::bands_data()
+{
+    QTest::addColumn<int>("width");
+    QTest::addColumn<int>("rem");
+    const struct
+    {
+        int width;
+        int rem;
+    } rows[] = {{1366, 10}, {1600, 10}, {1601, 12}, {1920, 12}, {2048, 12}, {2049, 18},
+                {2560, 18}, {2561, 24}, {3200, 24}, {3201, 30}, {3840, 30}};
+    for (const auto &row : rows)
+        QTest::addRow("%d", row.width) << row.width << row.rem;
+}
+
+void TestInitRem::bands()
+{
+    QFETCH(int, width);
+    QProcess server;
+    server.start(QStringLiteral("Xvfb"),
+                 {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
+                  QStringLiteral("0"), QStringLiteral("%1x900x24").arg(width), QStringLiteral("-nolisten"),
+                  QStringLiteral("tcp")});
+    QVERIFY2(server.waitForStarted(), "Xvfb is needed (Debian package xvfb)");
+    QVERIFY(server.waitForReadyRead());
+    const QString display = QLatin1Char(':') + QString::fromLatin1(server.readLine()).trimmed();
+
+    QProcess probe;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("DISPLAY"), display);
+    environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
+    probe.setProcessEnvironment(environment);
+    probe.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--print-rem")});
+    QVERIFY(probe.waitForFinished());
+    server.terminate();
+    server.waitForFinished();
+
+    QTEST(probe.readAllStandardOutput().simplified().toInt(), "rem");
+}
+
+int main(int argc, char **argv)
+{
+    if (argc == 2 && std::strcmp(argv[1], "--print-rem") == 0) {
+        const QGuiApplication app(argc, argv);
+        LenConverter::initRem();
+        std::printf("%d\n", LenConverter::m_rem);
+        return 0;
+    }
+    Support::preferHeadless();
+    const QCoreApplication app(argc, argv);
+    TestInitRem test;
+    return QTest::qExec(&test, argc, argv);
+}
+#include "tst_initrem.moc"
