@@ -1,0 +1,54 @@
+# What the other scripts share; they read it in with `.`.
+
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+
+build_packages=(g++ cmake ninja-build qtbase5-dev libqt5svg5)
+font_packages=(fonts-inter fonts-jetbrains-mono)
+
+# is_there PACKAGE: on Debian, whether it is installed; elsewhere, whether what we use of it is found.
+is_there() {
+    if command -v dpkg-query > /dev/null; then
+        [ "$(dpkg-query -W -f='${db:Status-Status}' "$1" 2> /dev/null)" = installed ]
+        return
+    fi
+    case $1 in
+        ninja-build) command -v ninja ;;
+        xvfb) command -v Xvfb ;;
+        qtbase5-dev) pkg-config --exists 'Qt5Widgets >= 5.15' ;;
+        libqt5svg5) [ -e "$(qmake -query QT_INSTALL_PLUGINS)/imageformats/libqsvg.so" ] ;;
+        libbenchmark-dev) pkg-config --exists benchmark ;;
+        fonts-inter) fc-list | grep -q Inter ;;
+        fonts-jetbrains-mono) fc-list | grep -q JetBrains ;;
+        *) command -v "$1" ;;
+    esac > /dev/null 2>&1
+}
+
+# need PACKAGE...: installs the Debian packages that are missing, or names them and stops.
+need() {
+    local package missing=() root=()
+    for package in "$@"; do
+        is_there "$package" || missing+=("$package")
+    done
+    [ ${#missing[@]} -gt 0 ] || return 0
+
+    [ "$(id -u)" = 0 ] || root=(sudo)
+    if ! command -v apt-get > /dev/null || ! command -v "${root[0]:-true}" > /dev/null; then
+        echo "Please install what Debian calls: ${missing[*]}" >&2
+        exit 1
+    fi
+    echo "Installing ${missing[*]}"
+    "${root[@]}" apt-get update -qq
+    "${root[@]}" env DEBIAN_FRONTEND=noninteractive \
+        apt-get install -y -qq --no-install-recommends "${missing[@]}" > /dev/null
+}
+
+# build PRESET TARGET [CMAKE OPTION]...: configures and builds, quietly unless something fails.
+build() {
+    local preset=$1 target=$2
+    shift 2
+    echo "Building $target ($preset)"
+    cmake --preset "$preset" "$@" > "/tmp/tavik-$$.log" 2>&1 \
+        && cmake --build --preset "$preset" --target "$target" > "/tmp/tavik-$$.log" 2>&1 \
+        || { cat "/tmp/tavik-$$.log"; rm "/tmp/tavik-$$.log"; exit 1; }
+    rm "/tmp/tavik-$$.log"
+}

@@ -1,0 +1,84 @@
+# The package as its users meet it. Installs the library into a scratch prefix, built without anything that
+# only the tests need, and then builds and runs against it: a small consumer by find_package, the same one
+# by pkg-config and by add_subdirectory, and the application that the README shows, word for word.
+cmake_minimum_required(VERSION 3.18)
+
+set(prefix "${SCRATCH}/prefix")
+set(consumer "${CMAKE_CURRENT_LIST_DIR}/consumer")
+set(ENV{QT_QPA_PLATFORM} offscreen)
+file(REMOVE_RECURSE "${SCRATCH}")
+
+function(run)
+    execute_process(COMMAND ${ARGN} RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output)
+    if(NOT result EQUAL 0)
+        string(JOIN " " command ${ARGN})
+        message(FATAL_ERROR "${command}\n${output}")
+    endif()
+    set(output "${output}" PARENT_SCOPE)
+endfunction()
+
+# configure_and_build(<name> <source> [<cmake option>...]): into SCRATCH/<name>.
+function(configure_and_build name source)
+    message(STATUS "Building ${name}")
+    run("${CMAKE_COMMAND}" -S "${source}" -B "${SCRATCH}/${name}" -G "${GENERATOR}"
+        -D CMAKE_BUILD_TYPE=Release ${ARGN})
+    run("${CMAKE_COMMAND}" --build "${SCRATCH}/${name}")
+endfunction()
+
+# The library, with everything out of reach that only tests and benchmarks may look for.
+configure_and_build(library "${SOURCE}" -D BUILD_TESTING=OFF -D TAVIK_BUILD_GALLERY=OFF
+    -D CMAKE_DISABLE_FIND_PACKAGE_Qt5Test=ON -D CMAKE_DISABLE_FIND_PACKAGE_benchmark=ON)
+run("${CMAKE_COMMAND}" --install "${SCRATCH}/library" --prefix "${prefix}")
+
+file(GLOB_RECURSE installed RELATIVE "${prefix}" "${prefix}/*")
+if(NOT installed MATCHES "libTavik\\.so\\.0(;|$)" OR installed MATCHES "_p\\.h")
+    message(FATAL_ERROR "Wrong files were installed: ${installed}")
+endif()
+file(GLOB library "${prefix}/*/libTavik.so" "${prefix}/*/*/libTavik.so")
+run(nm -DC --defined-only "${library}")
+if(output MATCHES "Sheet::" OR NOT output MATCHES "LenConverter::m_rem")
+    message(FATAL_ERROR "Wrong symbols are exported:\n${output}")
+endif()
+
+configure_and_build(by-find-package "${consumer}" -D CMAKE_PREFIX_PATH=${prefix} -D WAY=find_package)
+run("${SCRATCH}/by-find-package/consumer")
+configure_and_build(by-add-subdirectory "${consumer}" -D TAVIK_SOURCE=${SOURCE} -D WAY=add_subdirectory)
+run("${SCRATCH}/by-add-subdirectory/consumer")
+
+# A version that promises another interface must not be taken.
+execute_process(
+    COMMAND "${CMAKE_COMMAND}" -S "${consumer}" -B "${SCRATCH}/too-new" -G "${GENERATOR}"
+        -D CMAKE_PREFIX_PATH=${prefix} -D WAY=find_package -D VERSION=99.0
+    RESULT_VARIABLE result OUTPUT_QUIET ERROR_QUIET)
+if(result EQUAL 0)
+    message(FATAL_ERROR "find_package(Tavik 99.0) was satisfied")
+endif()
+
+get_filename_component(library_directory "${library}" DIRECTORY)
+set(ENV{PKG_CONFIG_PATH} "${library_directory}/pkgconfig")
+set(ENV{LD_LIBRARY_PATH} "${library_directory}")
+run(sh -c "c++ -std=c++17 -fPIC '${consumer}/main.cpp' -o '${SCRATCH}/by-pkg-config' \
+    $(pkg-config --cflags --libs Tavik)")
+run("${SCRATCH}/by-pkg-config")
+
+# readme_block(<language> <file>): the README's first block in that language.
+file(READ "${SOURCE}/README.md" readme)
+function(readme_block language file)
+    set(fence "```${language}\n")
+    string(LENGTH "${fence}" fence_length)
+    string(FIND "${readme}" "${fence}" begin)
+    math(EXPR begin "${begin} + ${fence_length}")
+    string(SUBSTRING "${readme}" ${begin} -1 rest)
+    string(FIND "${rest}" "```" end)
+    string(SUBSTRING "${rest}" 0 ${end} block)
+    file(WRITE "${file}" "${block}")
+endfunction()
+readme_block(cmake "${SCRATCH}/readme/CMakeLists.txt")
+readme_block(cpp "${SCRATCH}/readme/main.cpp")
+configure_and_build(readme-application "${SCRATCH}/readme" -D CMAKE_PREFIX_PATH=${prefix})
+# It shows a window and waits for its user: to be stopped from outside is what it does when all is well.
+execute_process(COMMAND "${SCRATCH}/readme-application/app" TIMEOUT 2
+    RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output)
+if(NOT result MATCHES "timeout")
+    message(FATAL_ERROR "The README's application ended by itself (${result}):\n${output}")
+endif()
