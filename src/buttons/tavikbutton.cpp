@@ -1,20 +1,12 @@
 #include "tavikbutton.h"
 
+#include "lengths_p.h"
 #include "sheet_p.h"
 #include "typographytool.h"
 
 #include <QBoxLayout>
 #include <QLabel>
 #include <QPainter>
-
-namespace {
-
-QSize pixels(const QSizeF &rem)
-{
-    return {LenConverter::remToPx(rem.width()), LenConverter::remToPx(rem.height())};
-}
-
-} // namespace
 
 TavikButton::TavikButton(Type type, QWidget *parent)
     : TavikButton(QString(), type, parent)
@@ -44,7 +36,7 @@ TavikButton::TavikButton(const QIcon &icon, const QSizeF &iconRemSize, const QSt
 {
     initStyleProperties(type);
     updateStyleSheet();
-    setIconSize(pixels(iconRemSize));
+    setIconSize(Lengths::remToPx(iconRemSize));
 }
 
 TavikButton::TavikButton(const QIcon &icon, const QSizeF &iconRemSize, Type type, QWidget *parent)
@@ -142,7 +134,7 @@ void TavikButton::updateStyleSheet()
         {";background-color: ", m_pressBgColor},
         {";border: ", m_borderWidth},
         {"px solid ", m_pressBorderColor},
-        {";}TavikButton:disabled {color: ", QStringLiteral("#909090")},
+        {";}TavikButton:disabled {color: ", "#909090"},
         {";}"},
     };
     Sheet::set(this, sheet);

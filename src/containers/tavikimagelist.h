@@ -1,0 +1,42 @@
+#ifndef TAVIK_TAVIKIMAGELIST_H
+#define TAVIK_TAVIKIMAGELIST_H
+
+#include <QListWidget>
+
+#include <Tavik/tavik_export.h>
+
+/// A grid of thumbnails, of which several can be selected at a time.
+///
+/// \code
+/// auto *photographs = new TavikImageList(this);
+/// photographs->setIconRemSz(10, 7.5);   // before the first image
+/// for (const QString &file : files)
+///     photographs->addImage(file);
+/// \endcode
+///
+/// Tiles can't be dragged about and flow anew when the list is resized. No tile is current when the list is
+/// shown. Images are read and scaled at once, and only the scaled ones are kept.
+class TAVIK_EXPORT TavikImageList : public QListWidget
+{
+    Q_OBJECT
+
+public:
+    /// An empty list.
+    explicit TavikImageList(QWidget *parent = nullptr);
+
+    /// Fixes the width, in rem; what is negative counts as 0.
+    void setRemWidth(double rem);
+
+    /// Sets the size of thumbnails added from now on, in rem.
+    void setIconRemSz(const double &remWidth, const double &remHeight);
+
+    /// Adds an image file at the end, stretched to the icon size whatever its proportions are; before an
+    /// icon size is set, to the size in which the toolkit shows icons in a grid. A file that can't be read
+    /// adds an empty tile.
+    void addImage(const QString &fileName);
+
+protected:
+    void showEvent(QShowEvent *event) override;
+};
+
+#endif

@@ -1,0 +1,55 @@
+#ifndef TAVIK_TAVIKCOMBOBOX_H
+#define TAVIK_TAVIKCOMBOBOX_H
+
+#include <QComboBox>
+
+#include <Tavik/RemSized>
+#include <Tavik/TypographyTool>
+#include <Tavik/tavik_export.h>
+
+/// A drop-down list, for choosing alone or with a field to type into.
+///
+/// \code
+/// auto *unit = new TavikComboBox(this);
+/// unit->addItems({tr("Pixels"), tr("Millimetres")});
+/// connect(unit, qOverload<int>(&QComboBox::currentIndexChanged), ruler, &Ruler::setUnit);
+/// \endcode
+///
+/// The wheel changes the current item, as in the toolkit. An item of the open list is 20 design pixels high
+/// whatever the font size is. A fixed size that is set before the first show is overruled by the least
+/// width and height that the look asks for.
+class TAVIK_EXPORT TavikComboBox : public RemSized<QComboBox>
+{
+    Q_OBJECT
+
+public:
+    /// Whether text can be typed. A value outside acts as ReadOnly.
+    enum Type : int {
+        ReadOnly = 0,
+        Editable = 1,
+    };
+
+    /// An empty combo box.
+    explicit TavikComboBox(Type type = ReadOnly, QWidget *parent = nullptr);
+
+    /// An empty combo box without a field, as Qt Designer makes it.
+    explicit TavikComboBox(QWidget *parent);
+
+    /// Sets the font size in rem, of the field and of the open list, and restyles.
+    void setFontRemSz(double rem);
+
+    /// Builds the style sheets of the combo box, of its list and of the list's scroll bar anew and sets
+    /// them.
+    void updateStyleSheet();
+
+protected:
+    void wheelEvent(QWheelEvent *event) override;
+
+private:
+    QString ownSheet() const;
+    QString viewSheet() const;
+
+    QString m_fontSz = TypographyTool::defualtFontSz();
+};
+
+#endif

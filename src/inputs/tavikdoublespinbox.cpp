@@ -1,0 +1,38 @@
+#include "tavikdoublespinbox.h"
+
+#include "lenconverter.h"
+#include "sheet_p.h"
+#include "spinboxsheet_p.h"
+
+#include <QWheelEvent>
+
+TavikDoubleSpinbox::TavikDoubleSpinbox(double minimum, double maximum, double step, QWidget *parent)
+    : RemSized(parent)
+{
+    TypographyTool::setFontHint(this);
+    setAlignment(Qt::AlignHCenter);
+    updateStyleSheet();
+    setSingleStep(step);
+    setRange(minimum, maximum);
+}
+
+TavikDoubleSpinbox::TavikDoubleSpinbox(QWidget *parent)
+    : TavikDoubleSpinbox(0.0, 99.99, 1.0, parent)
+{
+}
+
+void TavikDoubleSpinbox::setFontRemSz(double rem)
+{
+    m_fontSz = LenConverter::remToStrPx(rem);
+    updateStyleSheet();
+}
+
+void TavikDoubleSpinbox::updateStyleSheet()
+{
+    Sheet::set(this, SpinboxSheet::withButtons("TavikDoubleSpinbox", m_fontSz, "background: #efefef;"));
+}
+
+void TavikDoubleSpinbox::wheelEvent(QWheelEvent *event)
+{
+    event->accept(); // it comes ignored, and would scroll what is around
+}
