@@ -12,6 +12,13 @@
 #include <Tavik/LenConverter>
 #include <Tavik/TavikLabel>
 
+namespace {
+
+// Width of the line between two panes, in pixels.
+constexpr int Seam = 1;
+
+} // namespace
+
 Frame::Frame(const QString &page, QWidget *parent)
     : QWidget(parent)
     , m_title(Look::heading({}, 1.667))
@@ -24,11 +31,12 @@ Frame::Frame(const QString &page, QWidget *parent)
     setBackgroundRole(QPalette::Mid);
     m_scrollArea->setFrameShape(QFrame::NoFrame);
     m_scrollArea->setWidgetResizable(true);
+    m_scrollArea->setBackgroundRole(QPalette::Window);
 
     auto *navigation = new Navigation(page);
     auto *layout = new QGridLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(1);
+    layout->setSpacing(Seam);
     layout->addWidget(navigation, 0, 0, 2, 1);
     layout->addWidget(m_header, 0, 1);
     layout->addWidget(m_scrollArea, 1, 1);
@@ -50,7 +58,9 @@ void Frame::showPage(const QString &name)
 int Frame::fullHeight() const
 {
     const QWidget *page = m_scrollArea->widget();
-    return m_header->height() + layout()->spacing() + page->heightForWidth(m_scrollArea->width());
+    const int pageHeight =
+        qMax(page->minimumSizeHint().height(), page->heightForWidth(m_scrollArea->width()));
+    return m_header->height() + Seam + pageHeight;
 }
 
 QSize Frame::goodSize()

@@ -45,12 +45,20 @@ QFont Look::codeFont()
     if (isInstalled(QStringLiteral("JetBrains Mono")))
         font.setFamily(QStringLiteral("JetBrains Mono"));
     font.setPixelSize(LenConverter::remToPx(1));
+    // Code is shown as it is typed: no arrow for a minus and a greater-than.
+    font.setStyleStrategy(QFont::PreferNoShaping);
     return font;
+}
+
+TavikLabel *Look::flush(TavikLabel *label)
+{
+    label->setIndent(0);
+    return label;
 }
 
 TavikLabel *Look::heading(const QString &text, double rem)
 {
-    auto *label = new TavikLabel(text);
+    TavikLabel *label = flush(new TavikLabel(text));
     QFont font = label->font();
     font.setWeight(QFont::DemiBold);
     label->setFont(font);
@@ -60,9 +68,22 @@ TavikLabel *Look::heading(const QString &text, double rem)
 
 TavikLabel *Look::paragraph(const QString &text)
 {
-    auto *label = new TavikLabel(text);
+    TavikLabel *label = flush(new TavikLabel(text));
     label->setWordWrap(true);
     return label;
+}
+
+QWidget *Look::captioned(QWidget *widget, const QString &caption)
+{
+    auto *column = new QWidget;
+    auto *layout = new QVBoxLayout(column);
+    layout->setContentsMargins(0, 0, LenConverter::remToPx(SmallGap), 0);
+    layout->setSpacing(LenConverter::iniRemToPx(6));
+    layout->addStretch();
+    layout->addWidget(widget, 0, Qt::AlignLeft);
+    layout->addWidget(flush(new TavikLabel(caption, TavikLabel::Assist)));
+    layout->addStretch();
+    return column;
 }
 
 QWidget *Look::row(std::initializer_list<QWidget *> widgets)

@@ -28,11 +28,17 @@ void apply(QApplication &app);
 /// The font of code: 1 rem, monospaced.
 QFont codeFont();
 
+/// A label whose text begins where it stands: as a styled one, it would be indented beside controls.
+TavikLabel *flush(TavikLabel *label);
+
 /// A heading of the given size in rem.
 TavikLabel *heading(const QString &text, double rem);
 
 /// Running text, which wraps.
 TavikLabel *paragraph(const QString &text);
+
+/// A widget with its caption beneath, both from the left.
+QWidget *captioned(QWidget *widget, const QString &caption);
 
 /// Widgets side by side, at their own sizes, from the left.
 QWidget *row(std::initializer_list<QWidget *> widgets);

@@ -25,10 +25,9 @@ bool PicturesWriter::writePages() const
         LenConverter::m_rem = rem;
         for (const PageEntry &page : pageTable()) {
             Frame frame(page.name);
-            frame.setAttribute(Qt::WA_DontShowOnScreen);
             frame.resize(Frame::goodSize());
-            // Heights are known once everything is polished, which showing does.
-            frame.show();
+            // Heights are known once everything is polished and laid out, which painting sees to.
+            frame.grab();
             frame.resize(frame.width(), frame.fullHeight());
             if (!write(frame, QStringLiteral("%1-%2.png").arg(page.name).arg(rem)))
                 return false;

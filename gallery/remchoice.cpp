@@ -1,5 +1,7 @@
 #include "remchoice.h"
 
+#include "look.h"
+
 #include <QGridLayout>
 
 #include <Tavik/TavikButton>
@@ -38,20 +40,21 @@ RemChoice::RemChoice(QWidget *parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setHorizontalSpacing(LenConverter::iniRemToPx(6));
     layout->setVerticalSpacing(LenConverter::iniRemToPx(2));
-    layout->addWidget(new TavikLabel(tr("1 rem =")), 0, 0);
-    layout->addWidget(new TavikLabel(tr("Screen"), TavikLabel::Assist), 1, 0);
+    layout->addWidget(Look::flush(new TavikLabel(tr("1 rem ="))), 0, 0);
+    layout->addWidget(Look::flush(new TavikLabel(tr("Screen"), TavikLabel::Assist)), 1, 0);
     for (const Choice &choice : choices) {
         const QString screens = QString::fromUtf8(choice.screens);
         const int column = layout->columnCount();
         layout->addWidget(remButton(choice.rem, screens), 0, column);
-        layout->addWidget(new TavikLabel(screens, TavikLabel::Assist), 1, column, Qt::AlignHCenter);
+        layout->addWidget(Look::flush(new TavikLabel(screens, TavikLabel::Assist)), 1, column,
+                          Qt::AlignHCenter);
     }
 }
 
 QWidget *RemChoice::remButton(int rem, const QString &screens)
 {
     auto *button = new TavikButton(tr("%1 px").arg(rem), TavikButton::Toggle);
-    button->setRemSize(5.333, 2.333);
+    button->setRemSize(5.667, 2.333);
     button->setBorderRadius(LenConverter::iniRemToStrPx(4));
     button->updateStyleSheet();
     button->setToolTip(tr("One rem is %1 pixels on screens %2 pixels wide").arg(rem).arg(screens));

@@ -35,8 +35,8 @@ void check(QWidget *control)
 QString Specimen::stateName(State state)
 {
     switch (state) {
-    case State::Live:
-        return QCoreApplication::translate("Specimen", "Live");
+    case State::Rest:
+        return QCoreApplication::translate("Specimen", "Rest");
     case State::Hover:
         return QCoreApplication::translate("Specimen", "Hover");
     case State::Pressed:
@@ -51,7 +51,7 @@ QString Specimen::stateName(State state)
 
 void Specimen::hold(QWidget *control, State state)
 {
-    if (state == State::Live)
+    if (state == State::Rest)
         return;
     // The real pointer and the keyboard would take the control out of its state.
     control->setAttribute(Qt::WA_TransparentForMouseEvents);

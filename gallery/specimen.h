@@ -8,8 +8,8 @@ class QWidget;
 /// Controls held in a state, to be looked at.
 namespace Specimen {
 
-/// Live is a control as it comes, which answers to the pointer; the others are held.
-enum class State { Live, Hover, Pressed, Checked, Disabled };
+/// Rest is a control as it comes, which answers to the pointer; the others are held.
+enum class State { Rest, Hover, Pressed, Checked, Disabled };
 
 /// The state's name, for people.
 QString stateName(State state);

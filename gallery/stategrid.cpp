@@ -17,7 +17,7 @@ StateGrid::StateGrid(const QVector<Specimen::State> &states, QWidget *parent)
     m_grid->setColumnMinimumWidth(0, LenConverter::remToPx(9));
     for (int column = 1; column <= m_states.size(); ++column) {
         const QString name = Specimen::stateName(m_states.at(column - 1));
-        m_grid->addWidget(new TavikLabel(name, TavikLabel::Assist), 0, column);
+        m_grid->addWidget(Look::flush(new TavikLabel(name, TavikLabel::Assist)), 0, column);
         m_grid->setColumnStretch(column, 1);
     }
 }
@@ -25,7 +25,7 @@ StateGrid::StateGrid(const QVector<Specimen::State> &states, QWidget *parent)
 void StateGrid::addRow(const QString &name, const Maker &make)
 {
     const int row = m_grid->rowCount();
-    m_grid->addWidget(new TavikLabel(name), row, 0);
+    m_grid->addWidget(Look::flush(new TavikLabel(name)), row, 0);
     for (int column = 1; column <= m_states.size(); ++column) {
         QWidget *control = make();
         m_grid->addWidget(control, row, column, Qt::AlignLeft | Qt::AlignVCenter);

@@ -3,8 +3,6 @@
 #include "look.h"
 #include "stategrid.h"
 
-#include <QVBoxLayout>
-
 #include <Tavik/IconTool>
 #include <Tavik/LenConverter>
 #include <Tavik/TavikButton>
@@ -23,20 +21,6 @@ TavikButton *sized(TavikButton *button, double width = 9)
 {
     button->setRemSize(width, 2.667);
     return button;
-}
-
-/// A control with its caption beneath.
-QWidget *captioned(QWidget *control, const QString &caption)
-{
-    auto *widget = new QWidget;
-    auto *layout = new QVBoxLayout(widget);
-    layout->setContentsMargins(0, 0, LenConverter::remToPx(Look::SmallGap), 0);
-    layout->setSpacing(LenConverter::iniRemToPx(6));
-    layout->addStretch();
-    layout->addWidget(control, 0, Qt::AlignLeft);
-    layout->addWidget(new TavikLabel(caption, TavikLabel::Assist));
-    layout->addStretch();
-    return widget;
 }
 
 /// A button that shows one of the three sets of drawings.
@@ -59,16 +43,17 @@ ButtonsPage::ButtonsPage()
     addTypes();
     addIconAndText();
     addIconAlone();
-    addOwnLook();
+    addColours();
+    addCaption();
+    addCorners();
     addFontSize();
     addPictureButton();
-    addCaption();
 }
 
 void ButtonsPage::addTypes()
 {
     auto *grid =
-        new StateGrid({State::Live, State::Hover, State::Pressed, State::Checked, State::Disabled});
+        new StateGrid({State::Rest, State::Hover, State::Pressed, State::Checked, State::Disabled});
     const auto addRow = [grid](const QString &name, TavikButton::Type type) {
         grid->addRow(name, [type] { return sized(new TavikButton(tr("Save"), type)); });
     };
@@ -92,78 +77,100 @@ void ButtonsPage::addTypes()
 void ButtonsPage::addIconAndText()
 {
     const QSizeF size(1.333, 1.333);
-    addExample(Half, tr("Icon and text"), tr("The icon's size is in rem, so it grows with the text."),
-               Look::row({sized(new TavikButton(icon("refresh"), size, tr("Reload"), TavikButton::Outline)),
-                          sized(new TavikButton(icon("plus"), size, tr("Add"), TavikButton::Toggle)),
-                          sized(new TavikButton(icon("gradient"), size, tr("Fill")))}),
-               QStringLiteral("new TavikButton(QIcon(\":/Color/images/refresh.svg\"),\n"
-                              "                QSizeF(1.333, 1.333), tr(\"Reload\"),\n"
-                              "                TavikButton::Outline, this);"));
+    const QLatin1Char blank(' ');
+    addExample(
+        Half, tr("Icon and text"),
+        tr("The icon's size is in rem, so it grows with the text. A blank keeps the two apart."),
+        Look::row(
+            {sized(new TavikButton(icon("refresh"), size, blank + tr("Reload"), TavikButton::Outline)),
+             sized(new TavikButton(icon("plus"), size, blank + tr("Add"), TavikButton::Toggle)),
+             sized(new TavikButton(icon("gradient"), size, blank + tr("Fill")))}),
+        QStringLiteral("new TavikButton(QIcon(\":/Color/images/refresh.svg\"),\n"
+                       "                QSizeF(1.333, 1.333), \" \" + tr(\"Reload\"),\n"
+                       "                TavikButton::Outline, this);"));
 }
 
 void ButtonsPage::addIconAlone()
 {
     auto *scaled = sized(new TavikButton(icon("plus"), QSizeF(1.333, 1.333), TavikButton::Toggle), 4);
     auto *unscaled = sized(new TavikButton(icon("plus"), QSize(16, 16), TavikButton::Toggle), 4);
-    addExample(Half, tr("Icon alone"),
-               tr("A QSizeF is in rem. A QSize is in pixels and stays as it is on every screen."),
-               Look::row({captioned(scaled, tr("1.333 rem")), captioned(unscaled, tr("16 pixels"))}),
-               QStringLiteral("const QIcon plus(\":/Color/images/plus.svg\");\n"
-                              "new TavikButton(plus, QSizeF(1.333, 1.333), type, this);\n"
-                              "new TavikButton(plus, QSize(16, 16), type, this);"));
+    addExample(
+        Half, tr("Icon alone"),
+        tr("A QSizeF is in rem. A QSize is in pixels and stays as it is on every screen."),
+        Look::row({Look::captioned(scaled, tr("1.333 rem")), Look::captioned(unscaled, tr("16 pixels"))}),
+        QStringLiteral("const QIcon plus(\":/Color/images/plus.svg\");\n"
+                       "new TavikButton(plus, QSizeF(1.333, 1.333), type, this);\n"
+                       "new TavikButton(plus, QSize(16, 16), type, this);"));
 }
 
-void ButtonsPage::addOwnLook()
+void ButtonsPage::addColours()
 {
-    auto *blue = sized(new TavikButton(tr("Send")));
-    blue->setBgColor(QStringLiteral("#108ee9"));
-    blue->setHoverBgColor(QStringLiteral("#48aaee"));
-    blue->setPressBgColor(QStringLiteral("#0f77c9"));
-    blue->updateStyleSheet();
-    auto *round = sized(new TavikButton(tr("Follow"), TavikButton::Outline));
-    round->setBorderRadius(LenConverter::iniRemToStrPx(16));
-    round->updateStyleSheet();
-    addExample(Half, tr("A look of your own"),
+    auto *send = sized(new TavikButton(tr("Send")));
+    send->setBgColor(QStringLiteral("#108ee9"));
+    send->setHoverBgColor(QStringLiteral("#48aaee"));
+    send->setPressBgColor(QStringLiteral("#0f77c9"));
+    send->setBorderColor(QStringLiteral("#108ee9"));
+    send->updateStyleSheet();
+    addExample(Half, tr("Colours of your own"),
                tr("The setters only store; updateStyleSheet shows all that was set. The pressed text "
                   "colour alone comes with the type."),
-               Look::row({blue, round}),
-               QStringLiteral("send->setBgColor(\"#108ee9\");\n"
-                              "send->updateStyleSheet();\n"
-                              "follow->setBorderRadius(\n"
-                              "    LenConverter::iniRemToStrPx(16));\n"
-                              "follow->updateStyleSheet();"));
+               Look::row({send}),
+               QStringLiteral("auto *send = new TavikButton(tr(\"Send\"), this);\n"
+                              "send->setBgColor(\"#108ee9\");\n"
+                              "send->setHoverBgColor(\"#48aaee\");\n"
+                              "send->setPressBgColor(\"#0f77c9\");\n"
+                              "send->setBorderColor(\"#108ee9\");\n"
+                              "send->updateStyleSheet();"));
+}
+
+void ButtonsPage::addCorners()
+{
+    auto *round = sized(new TavikButton(tr("Round"), TavikButton::Outline));
+    round->setBorderRadius(LenConverter::iniRemToStrPx(16));
+    round->updateStyleSheet();
+    auto *thick = sized(new TavikButton(tr("Thick"), TavikButton::Outline));
+    thick->setBorderWidth(LenConverter::iniRemToStrPx(2));
+    thick->updateStyleSheet();
+    addExample(Half, tr("Corners and border"),
+               tr("Both are pixels in text form, the same on every screen unless converted."),
+               Look::row({round, thick}),
+               QStringLiteral("round->setBorderRadius(LenConverter::iniRemToStrPx(16));\n"
+                              "round->updateStyleSheet();\n"
+                              "thick->setBorderWidth(LenConverter::iniRemToStrPx(2));"));
 }
 
 void ButtonsPage::addFontSize()
 {
     auto *small = sized(new TavikButton(tr("Small"), TavikButton::Outline));
     small->setFontRemSz(1);
-    auto *usual = sized(new TavikButton(tr("Usual"), TavikButton::Outline));
     auto *large = sized(new TavikButton(tr("Large"), TavikButton::Outline));
     large->setFontRemSz(1.5);
+    auto *fixed = sized(new TavikButton(tr("Fixed"), TavikButton::Outline));
+    fixed->setFontPxSz(14);
     addExample(Half, tr("Font size"),
-               tr("1.167 rem unless set. setFontRemSz follows the screen, setFontPxSz does not; both "
-                  "restyle at once."),
-               Look::row({small, usual, large}),
+               tr("1.167 rem unless set. In rem it follows the screen, in pixels it does not."),
+               Look::row({small, large, fixed}),
                QStringLiteral("small->setFontRemSz(1);\n"
-                              "large->setFontRemSz(1.5);"));
+                              "large->setFontRemSz(1.5);\n"
+                              "fixed->setFontPxSz(14);"));
 }
 
 void ButtonsPage::addPictureButton()
 {
-    auto *grid = new StateGrid({State::Live, State::Hover, State::Checked});
+    auto *grid =
+        new StateGrid({State::Rest, State::Hover, State::Pressed, State::Checked, State::Disabled});
     for (const char *set : {"color", "gradient", "radial_gradient"}) {
         const QString name = QString::fromLatin1(set);
         grid->addRow(name, [name] { return pictureButton(name); });
     }
-    addExample(Half, tr("Picture button"),
+    addExample(Whole, tr("Picture button"),
                tr("The button paints its icon over its whole area and nothing else: one drawing at rest, "
                   "one under the pointer, one when checked."),
                grid,
-               QStringLiteral("button->setIcon(IconTool::constructIcon(\n"
-                              "    \":/Color/images/gradient\", QSize(32, 32)));\n"
-                              "button->setIsPaintOverrided(true);\n"
-                              "button->setCheckable(true);"));
+               QStringLiteral(
+                   "button->setIcon(IconTool::constructIcon(\":/Color/images/gradient\", QSize(32, 32)));\n"
+                   "button->setIsPaintOverrided(true);\n"
+                   "button->setCheckable(true);"));
 }
 
 void ButtonsPage::addCaption()

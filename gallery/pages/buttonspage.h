@@ -15,10 +15,11 @@ private:
     void addTypes();
     void addIconAndText();
     void addIconAlone();
-    void addOwnLook();
-    void addFontSize();
     void addPictureButton();
+    void addColours();
     void addCaption();
+    void addCorners();
+    void addFontSize();
 };
 
 #endif

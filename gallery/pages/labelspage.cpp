@@ -28,7 +28,7 @@ QWidget *choice(const QString &first, const QString &second, bool isEnabled = tr
 
 TavikLabel *caption(const QString &text, bool isEnabled = true)
 {
-    auto *label = new TavikLabel(text);
+    TavikLabel *label = Look::flush(new TavikLabel(text));
     label->setEnabled(isEnabled);
     return label;
 }
@@ -46,10 +46,10 @@ LabelsPage::LabelsPage()
 void LabelsPage::addTypes()
 {
     using Specimen::State;
-    auto *grid = new StateGrid({State::Live, State::Disabled});
-    grid->addRow(QStringLiteral("Default"), [] { return new TavikLabel(tr("Opacity")); });
+    auto *grid = new StateGrid({State::Rest, State::Disabled});
+    grid->addRow(QStringLiteral("Default"), [] { return Look::flush(new TavikLabel(tr("Opacity"))); });
     grid->addRow(QStringLiteral("Assist"),
-                 [] { return new TavikLabel(tr("In per cent"), TavikLabel::Assist); });
+                 [] { return Look::flush(new TavikLabel(tr("In per cent"), TavikLabel::Assist)); });
     addExample(Half, tr("Types"),
                tr("Default is for ordinary text. Assist is smaller and paler, for what only helps."), grid,
                QStringLiteral("new TavikLabel(tr(\"Opacity\"), this);\n"
@@ -59,7 +59,7 @@ void LabelsPage::addTypes()
 
 void LabelsPage::addLook()
 {
-    auto *title = new TavikLabel(tr("Total"));
+    TavikLabel *title = Look::flush(new TavikLabel(tr("Total")));
     title->setFontRemSz(1.667);
     auto *sum = new TavikLabel(QStringLiteral("128.50"));
     sum->setFontRemSz(1.667);

@@ -6,7 +6,9 @@
 
 #include <QDir>
 #include <QGridLayout>
+#include <QLabel>
 
+#include <Tavik/IconTool>
 #include <Tavik/LenConverter>
 #include <Tavik/TavikButton>
 
@@ -15,11 +17,12 @@ PicturesPage::PicturesPage()
               "and 40 design pixels."))
 {
     addUse();
+    addThreeDrawings();
     addTransparency();
+    addFolder(Half, QStringLiteral("Check"), tr("Indicators of check boxes."));
     addFolder(Half, QStringLiteral("Radio"), tr("Indicators of radio buttons."));
     addFolder(Half, QStringLiteral("SpinboxArrow"), tr("Arrows of spin boxes and combo boxes."),
               Look::Accent);
-    addFolder(Half, QStringLiteral("Check"), tr("Indicators of check boxes."));
     addFolder(Half, QStringLiteral("Expandable"), tr("Arrows of panels that open and close."));
     addFolder(Half, QStringLiteral("Button"), tr("For buttons that remove something."));
     addFolder(Half, QStringLiteral("Slider"), tr("For the handles of sliders."));
@@ -32,14 +35,33 @@ PicturesPage::PicturesPage()
 void PicturesPage::addUse()
 {
     const QIcon icon(QStringLiteral(":/Button/images/delete_grey.svg"));
-    auto *button = new TavikButton(icon, QSizeF(1.333, 1.333), tr("Remove"), TavikButton::Outline);
+    auto *button =
+        new TavikButton(icon, QSizeF(1.333, 1.333), QLatin1Char(' ') + tr("Remove"), TavikButton::Outline);
     button->setRemSize(9, 2.667);
-    addExample(Half, tr("Use a picture"),
-               tr("A path works wherever the toolkit takes a file name: in icons, pixmaps and sheets."),
+    addExample(Half, tr("Use a picture"), tr("A path works in icons, in pixmaps and in style sheets."),
                Look::row({button}),
                QStringLiteral("const QIcon icon(\":/Button/images/delete_grey.svg\");\n"
                               "new TavikButton(icon, QSizeF(1.333, 1.333),\n"
-                              "                tr(\"Remove\"), TavikButton::Outline, this);"));
+                              "                \" \" + tr(\"Remove\"), TavikButton::Outline, this);"));
+}
+
+void PicturesPage::addThreeDrawings()
+{
+    const QSize size = LenConverter::iniRemToPxSz(32, 32);
+    const QIcon icon = IconTool::constructIcon(QStringLiteral(":/Color/images/gradient"), size);
+    const auto drawing = [&](QIcon::Mode mode, const QString &name) {
+        auto *picture = new QLabel;
+        picture->setPixmap(icon.pixmap(size, mode, QIcon::On));
+        return Look::captioned(picture, name);
+    };
+    addExample(Half, tr("Three drawings in one icon"),
+               tr("One path without extension: _hover and _press are added to it."),
+               Look::row({drawing(QIcon::Normal, QStringLiteral("Normal")),
+                          drawing(QIcon::Active, QStringLiteral("Active")),
+                          drawing(QIcon::Selected, QStringLiteral("Selected"))}),
+               QStringLiteral("const QIcon icon = IconTool::constructIcon(\n"
+                              "    \":/Color/images/gradient\", QSize(32, 32));\n"
+                              "icon.pixmap(32, QIcon::Active, QIcon::On);"));
 }
 
 void PicturesPage::addTransparency()
@@ -50,8 +72,7 @@ void PicturesPage::addTransparency()
         return new TransparentSwatch(color);
     };
     addExample(Half, tr("Behind a transparent colour"),
-               tr("The texture is tiled first and the colour painted over it: here with no, half and full "
-                  "opacity."),
+               tr("The texture is tiled first, then the colour painted over it."),
                Look::row({swatch(0), swatch(128), swatch(255)}),
                QStringLiteral("painter.fillRect(rect(), QBrush(IconTool::alphaTexture()));\n"
                               "painter.fillRect(rect(), QColor(8, 162, 116, 128));"));

@@ -13,6 +13,7 @@ public:
 
 private:
     void addUse();
+    void addThreeDrawings();
     void addTransparency();
     void addFolder(Span span, const QString &folder, const QString &description,
                    const QColor &ground = Qt::white);
