@@ -43,6 +43,7 @@ Frame::Frame(const QString &page, QWidget *parent)
     layout->setColumnStretch(1, 1);
     layout->setRowStretch(1, 1);
 
+    setFocusProxy(navigation);
     connect(navigation, &Navigation::pageChosen, this, &Frame::showPage);
     showPage(page);
 }

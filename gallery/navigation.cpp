@@ -49,5 +49,7 @@ QWidget *Navigation::pageButton(const PageEntry &page, bool isCurrent)
         if (isChecked)
             Q_EMIT pageChosen(name);
     });
+    if (isCurrent)
+        setFocusProxy(button);
     return button;
 }

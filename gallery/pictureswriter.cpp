@@ -41,6 +41,7 @@ bool PicturesWriter::writeSamples() const
     LenConverter::m_rem = 12;
     for (const Sample &sample : sampleTable()) {
         const std::unique_ptr<QWidget> widget(sample.make());
+        widget->setAutoFillBackground(true);
         widget->setBackgroundRole(QPalette::Base);
         widget->adjustSize();
         if (!write(*widget, sample.className.toLower() + QStringLiteral(".png")))

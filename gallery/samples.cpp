@@ -24,7 +24,7 @@ QWidget *labels()
 
 TavikButton *sized(TavikButton *button)
 {
-    button->setRemSize(4.5, 2.25);
+    button->setRemSize(4.667, 2.333);
     return button;
 }
 
@@ -36,7 +36,7 @@ QWidget *buttons()
                               sized(new TavikButton(QStringLiteral("Toggle"), TavikButton::Toggle)),
                               sized(new TavikButton(QStringLiteral("Link"), TavikButton::Link)),
                               sized(new TavikButton(icon, QSizeF(1.5, 1.5), TavikButton::Flat))});
-    row->layout()->setSpacing(LenConverter::iniRemToPx(6));
+    row->layout()->setSpacing(LenConverter::iniRemToPx(4));
     return row;
 }
 

@@ -5,6 +5,7 @@
 
 #include <QGuiApplication>
 #include <QScreen>
+#include <QStyle>
 
 #include <Tavik/LenConverter>
 
@@ -12,10 +13,13 @@ Window::Window(const QString &page, QWidget *parent)
     : QScrollArea(parent)
 {
     setFrameShape(QFrame::NoFrame);
+    // A scroll area is a stop for the tabulator key; this one seldom has anything to scroll.
+    setFocusPolicy(Qt::NoFocus);
     setWidgetResizable(true);
     setWindowTitle(tr("Tavik Gallery"));
-    resize(Frame::goodSize().boundedTo(screen()->availableSize()));
     showFrame(page);
+    takeGoodSize();
+    m_frame->setFocus();
 }
 
 void Window::showFrame(const QString &page)
@@ -26,9 +30,19 @@ void Window::showFrame(const QString &page)
     connect(m_frame->remChoice(), &RemChoice::remChosen, this, &Window::changeRem, Qt::QueuedConnection);
 }
 
+void Window::takeGoodSize()
+{
+    if (isMaximized() || isFullScreen())
+        return;
+    const QSize titleBar(0, style()->pixelMetric(QStyle::PM_TitleBarHeight));
+    resize(Frame::goodSize().boundedTo(screen()->availableSize() - titleBar));
+}
+
 void Window::changeRem(int rem)
 {
     LenConverter::m_rem = rem;
     showFrame(m_frame->page());
+    takeGoodSize();
     m_frame->remChoice()->setFocus();
+    ensureWidgetVisible(m_frame->remChoice());
 }

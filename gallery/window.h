@@ -17,6 +17,7 @@ public:
 
 private:
     void showFrame(const QString &page);
+    void takeGoodSize();
     void changeRem(int rem);
 
     Frame *m_frame = nullptr;

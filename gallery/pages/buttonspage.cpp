@@ -66,8 +66,8 @@ void ButtonsPage::addTypes()
     });
     addExample(
         Whole, tr("Types and states"),
-        tr("The first column answers to the pointer; the others are held in their state. Toggle can "
-           "be checked from the start, the others with setCheckable. Flat is made for icons."),
+        tr("The first column answers to the pointer, the others are held in their state. Toggle is "
+           "checkable as it comes; Flat is made for icons."),
         grid,
         QStringLiteral("auto *save = new TavikButton(tr(\"Save\"), this);\n"
                        "auto *cancel = new TavikButton(tr(\"Cancel\"), TavikButton::Outline, this);\n"
@@ -79,8 +79,7 @@ void ButtonsPage::addIconAndText()
     const QSizeF size(1.333, 1.333);
     const QLatin1Char blank(' ');
     addExample(
-        Half, tr("Icon and text"),
-        tr("The icon's size is in rem, so it grows with the text. A blank keeps the two apart."),
+        Half, tr("Icon and text"), tr("The icon's size is in rem. A blank keeps the text off it."),
         Look::row(
             {sized(new TavikButton(icon("refresh"), size, blank + tr("Reload"), TavikButton::Outline)),
              sized(new TavikButton(icon("plus"), size, blank + tr("Add"), TavikButton::Toggle)),

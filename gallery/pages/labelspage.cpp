@@ -65,8 +65,7 @@ void LabelsPage::addLook()
     sum->setFontRemSz(1.667);
     sum->setColor(QStringLiteral("#08a274"));
     addExample(Half, tr("Size and colour"),
-               tr("Both setters restyle the label at once. The size is in rem, so it follows the screen."),
-               Look::row({title, sum}),
+               tr("Both setters restyle the label at once. The size is in rem."), Look::row({title, sum}),
                QStringLiteral("auto *sum = new TavikLabel(\"128.50\", this);\n"
                               "sum->setFontRemSz(1.667);\n"
                               "sum->setColor(\"#08a274\");"));

@@ -21,7 +21,9 @@ QPixmap rendered(const QString &path, int side, double pixelRatio)
 {
     QImageReader reader(path);
     const QSize box = QSize(side, side) * pixelRatio;
-    reader.setScaledSize(reader.size().scaled(box, Qt::KeepAspectRatio).expandedTo(QSize(1, 1)));
+    // A line would be scaled to nothing: it is one design pixel high at least.
+    const QSize least = LenConverter::iniRemToPxSz(1, 1) * pixelRatio;
+    reader.setScaledSize(reader.size().scaled(box, Qt::KeepAspectRatio).expandedTo(least));
     QPixmap pixmap = QPixmap::fromImageReader(&reader);
     pixmap.setDevicePixelRatio(pixelRatio);
     return pixmap;

@@ -42,7 +42,8 @@ void PicturesPage::addUse()
                Look::row({button}),
                QStringLiteral("const QIcon icon(\":/Button/images/delete_grey.svg\");\n"
                               "new TavikButton(icon, QSizeF(1.333, 1.333),\n"
-                              "                \" \" + tr(\"Remove\"), TavikButton::Outline, this);"));
+                              "                \" \" + tr(\"Remove\"),\n"
+                              "                TavikButton::Outline, this);"));
 }
 
 void PicturesPage::addThreeDrawings()
