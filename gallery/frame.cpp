@@ -1,0 +1,85 @@
+#include "frame.h"
+
+#include "look.h"
+#include "navigation.h"
+#include "page.h"
+#include "pagetable.h"
+#include "remchoice.h"
+
+#include <QGridLayout>
+#include <QScrollArea>
+
+#include <Tavik/LenConverter>
+#include <Tavik/TavikLabel>
+
+namespace {
+
+// Width of the line between two panes, in pixels.
+constexpr int Seam = 1;
+
+} // namespace
+
+Frame::Frame(const QString &page, QWidget *parent)
+    : QWidget(parent)
+    , m_title(Look::heading({}, 1.667))
+    , m_remChoice(new RemChoice)
+    , m_header(buildHeader())
+    , m_scrollArea(new QScrollArea)
+{
+    // The lines between the panes are the ground that shows through.
+    setAutoFillBackground(true);
+    setBackgroundRole(QPalette::Mid);
+    m_scrollArea->setFrameShape(QFrame::NoFrame);
+    m_scrollArea->setWidgetResizable(true);
+    m_scrollArea->setBackgroundRole(QPalette::Window);
+
+    auto *navigation = new Navigation(page);
+    auto *layout = new QGridLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(Seam);
+    layout->addWidget(navigation, 0, 0, 2, 1);
+    layout->addWidget(m_header, 0, 1);
+    layout->addWidget(m_scrollArea, 1, 1);
+    layout->setColumnStretch(1, 1);
+    layout->setRowStretch(1, 1);
+
+    setFocusProxy(navigation);
+    connect(navigation, &Navigation::pageChosen, this, &Frame::showPage);
+    showPage(page);
+}
+
+void Frame::showPage(const QString &name)
+{
+    const PageEntry *entry = findPage(name);
+    m_page = name;
+    m_title->setText(entry->title);
+    m_scrollArea->setWidget(entry->make());
+}
+
+int Frame::fullHeight() const
+{
+    const QWidget *page = m_scrollArea->widget();
+    const int pageHeight =
+        qMax(page->minimumSizeHint().height(), page->heightForWidth(m_scrollArea->width()));
+    return m_header->height() + Seam + pageHeight;
+}
+
+QSize Frame::goodSize()
+{
+    return {LenConverter::remToPx(116), LenConverter::remToPx(76)};
+}
+
+QWidget *Frame::buildHeader()
+{
+    auto *header = new QWidget;
+    header->setAutoFillBackground(true);
+    header->setBackgroundRole(QPalette::Base);
+    const int gap = LenConverter::remToPx(Look::Gap);
+    auto *layout = new QHBoxLayout(header);
+    layout->setContentsMargins(gap, gap / 2, gap, gap / 2);
+    layout->setSpacing(gap);
+    layout->addWidget(m_title);
+    layout->addStretch();
+    layout->addWidget(m_remChoice);
+    return header;
+}

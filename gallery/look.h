@@ -1,0 +1,48 @@
+#ifndef GALLERY_LOOK_H
+#define GALLERY_LOOK_H
+
+#include <QColor>
+#include <QFont>
+
+class QApplication;
+class QWidget;
+class TavikLabel;
+
+/// What the gallery looks like around the controls: colours, fonts and the distances of its grid.
+namespace Look {
+
+constexpr QColor Ground{0xf5, 0xf6, 0xf6};
+constexpr QColor Tint{0xf8, 0xf9, 0xf9};
+constexpr QColor Line{0xe4, 0xe4, 0xe4};
+constexpr QColor Text{0x40, 0x40, 0x40};
+constexpr QColor Accent{0x08, 0xa2, 0x74};
+
+/// Distance between cards and from the edges of a pane, in rem.
+constexpr double Gap = 2;
+/// Distance between what belongs together, in rem.
+constexpr double SmallGap = 1;
+
+/// Fixes style, palette and font, so that pictures are the same on every desktop.
+void apply(QApplication &app);
+
+/// The font of code: 1 rem, monospaced.
+QFont codeFont();
+
+/// A label whose text begins where it stands: as a styled one, it would be indented beside controls.
+TavikLabel *flush(TavikLabel *label);
+
+/// A heading of the given size in rem.
+TavikLabel *heading(const QString &text, double rem);
+
+/// Running text, which wraps.
+TavikLabel *paragraph(const QString &text);
+
+/// A widget with its caption beneath, both from the left.
+QWidget *captioned(QWidget *widget, const QString &caption);
+
+/// Widgets side by side, at their own sizes, from the left.
+QWidget *row(std::initializer_list<QWidget *> widgets);
+
+} // namespace Look
+
+#endif

@@ -1,0 +1,62 @@
+#include "pictureswriter.h"
+
+#include "frame.h"
+#include "pagetable.h"
+#include "remchoice.h"
+#include "samples.h"
+
+#include <memory>
+
+#include <QDir>
+#include <QPixmap>
+#include <QTextStream>
+
+#include <Tavik/LenConverter>
+
+PicturesWriter::PicturesWriter(const QString &directory)
+    : m_directory(directory)
+{
+    QDir().mkpath(directory);
+}
+
+bool PicturesWriter::writePages() const
+{
+    for (int rem : RemChoice::remValues()) {
+        LenConverter::m_rem = rem;
+        for (const PageEntry &page : pageTable()) {
+            Frame frame(page.name);
+            frame.resize(Frame::goodSize());
+            // Heights are known once everything is polished and laid out, which painting sees to.
+            frame.grab();
+            frame.resize(frame.width(), frame.fullHeight());
+            if (!write(frame, QStringLiteral("%1-%2.png").arg(page.name).arg(rem)))
+                return false;
+        }
+    }
+    return true;
+}
+
+bool PicturesWriter::writeSamples() const
+{
+    LenConverter::m_rem = 12;
+    for (const Sample &sample : sampleTable()) {
+        const std::unique_ptr<QWidget> widget(sample.make());
+        widget->setAutoFillBackground(true);
+        widget->setBackgroundRole(QPalette::Base);
+        widget->adjustSize();
+        if (!write(*widget, sample.className.toLower() + QStringLiteral(".png")))
+            return false;
+    }
+    return true;
+}
+
+bool PicturesWriter::write(QWidget &widget, const QString &name) const
+{
+    const QString path = QDir(m_directory).filePath(name);
+    if (!widget.grab().save(path)) {
+        QTextStream(stderr) << tr("Can't write %1").arg(path) << Qt::endl;
+        return false;
+    }
+    QTextStream(stdout) << path << Qt::endl;
+    return true;
+}
