@@ -24,7 +24,9 @@ QString remNumbers()
 } // namespace
 
 CommandLine::CommandLine()
-    : m_page(QStringLiteral("page"), tr("Open at this page: %1.").arg(pageNames()), QStringLiteral("name"))
+    : m_help(m_parser.addHelpOption())
+    , m_version(m_parser.addVersionOption())
+    , m_page(QStringLiteral("page"), tr("Open at this page: %1.").arg(pageNames()), QStringLiteral("name"))
     , m_rem(QStringLiteral("rem"),
             tr("Pixels per rem: %1. Without it, the screen decides.").arg(remNumbers()),
             QStringLiteral("number"))
@@ -32,20 +34,19 @@ CommandLine::CommandLine()
                  tr("Write every page at every rem as PNG files into this directory, and end."),
                  QStringLiteral("directory"))
     , m_samples(QStringLiteral("samples"),
-                tr("Write a small PNG file of each control into this directory, and end."),
+                tr("Write a small PNG file of each control, and one of the window, into this directory, "
+                   "and end."),
                 QStringLiteral("directory"))
 {
     m_parser.setApplicationDescription(tr("Shows every control of Tavik, with the code that makes it."));
-    m_parser.addHelpOption();
-    m_parser.addVersionOption();
     m_parser.addOptions({m_page, m_rem, m_pictures, m_samples});
 }
 
-bool CommandLine::asksForFiles(const QStringList &arguments)
+bool CommandLine::needsNoDisplay(const QStringList &arguments)
 {
     // The toolkit's own options are still among them, and unknown to us: no reason to complain yet.
     m_parser.parse(arguments);
-    return m_parser.isSet(m_pictures) || m_parser.isSet(m_samples);
+    return asksForFiles() || m_parser.isSet(m_help) || m_parser.isSet(m_version);
 }
 
 QString CommandLine::read()

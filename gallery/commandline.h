@@ -12,9 +12,9 @@ class CommandLine
 public:
     CommandLine();
 
-    /// Whether arguments ask for picture files only, so that no display is needed. Works before there is
-    /// an application.
-    bool asksForFiles(const QStringList &arguments);
+    /// Whether arguments ask for no window, but for files, help or the version. Works before there is an
+    /// application.
+    bool needsNoDisplay(const QStringList &arguments);
 
     /// Reads the application's arguments; answers --help, --version and unknown options by ending it.
     /// Returns what is wrong with the values, or an empty text.
@@ -32,8 +32,13 @@ public:
     /// Directory for samples of the controls, empty if not given.
     QString samplesDirectory() const { return m_parser.value(m_samples); }
 
+    /// Whether files are asked for.
+    bool asksForFiles() const { return m_parser.isSet(m_pictures) || m_parser.isSet(m_samples); }
+
 private:
     QCommandLineParser m_parser;
+    QCommandLineOption m_help;
+    QCommandLineOption m_version;
     QCommandLineOption m_page;
     QCommandLineOption m_rem;
     QCommandLineOption m_pictures;

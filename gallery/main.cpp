@@ -33,8 +33,7 @@ int writeFiles(const CommandLine &commandLine)
 
 int main(int argc, char **argv)
 {
-    const bool isForFiles = CommandLine().asksForFiles(textsOf(argc, argv));
-    if (isForFiles && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+    if (CommandLine().needsNoDisplay(textsOf(argc, argv)) && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
 
     QApplication app(argc, argv);
@@ -48,7 +47,7 @@ int main(int argc, char **argv)
     }
 
     Look::apply(app);
-    if (isForFiles)
+    if (commandLine.asksForFiles())
         return writeFiles(commandLine);
     LenConverter::initRem();
     if (commandLine.rem() > 0)

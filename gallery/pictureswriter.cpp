@@ -47,7 +47,9 @@ bool PicturesWriter::writeSamples() const
         if (!write(*widget, sample.className.toLower() + QStringLiteral(".png")))
             return false;
     }
-    return true;
+    Frame frame(QStringLiteral("buttons"));
+    frame.resize(Frame::goodSize());
+    return write(frame, QStringLiteral("gallery.png"));
 }
 
 bool PicturesWriter::write(QWidget &widget, const QString &name) const

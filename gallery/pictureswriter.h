@@ -20,8 +20,8 @@ public:
     /// Every page at every rem, at its full height, as `<page>-<rem>.png`. Returns whether all went well.
     bool writePages() const;
 
-    /// A small specimen of each control at 12 pixels per rem, named as its class in lower case. Returns
-    /// whether all went well.
+    /// A small specimen of each control at 12 pixels per rem, named as its class in lower case, and the
+    /// window as gallery.png. Returns whether all went well.
     bool writeSamples() const;
 
 private:

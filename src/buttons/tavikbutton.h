@@ -25,6 +25,8 @@ class QLabel;
 /// \endcode
 /// Colours and pixel strings go into the sheet unchecked: with a text that is neither, the toolkit drops
 /// the rule or the sheet, with a warning. A disabled button changes its text colour only, to #909090.
+///
+/// Icon and text stand close together, as the toolkit puts them: a blank before the text keeps them apart.
 class TAVIK_EXPORT TavikButton : public RemSized<QPushButton>
 {
     Q_OBJECT

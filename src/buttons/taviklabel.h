@@ -15,6 +15,8 @@
 ///
 /// The setters of colour and font size restyle the label at once. Colours are written as a style sheet
 /// takes them and are not checked: with one that is none, the toolkit drops the colour or the sheet.
+///
+/// The toolkit indents a padded label by half a letter; setIndent(0) lines it up with other controls.
 class TAVIK_EXPORT TavikLabel : public QLabel
 {
     Q_OBJECT

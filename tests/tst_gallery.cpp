@@ -1,0 +1,165 @@
+#include "support.h"
+
+#include <frame.h>
+#include <look.h>
+#include <pagetable.h>
+#include <remchoice.h>
+
+#include <Tavik/LenConverter>
+
+#include <QAbstractButton>
+#include <QLabel>
+#include <QProcess>
+#include <QScrollArea>
+#include <QTemporaryDir>
+
+class TestGallery : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void nothingIsClipped_data();
+    void nothingIsClipped();
+    void picturesWithoutADisplay();
+    void badArguments_data();
+    void badArguments();
+};
+
+namespace {
+
+struct Outcome
+{
+    int exitCode;
+    QString output;
+};
+
+Outcome runGallery(const QStringList &arguments)
+{
+    QProcess gallery;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const char *name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+        environment.remove(QString::fromLatin1(name));
+    gallery.setProcessEnvironment(environment);
+    gallery.setProcessChannelMode(QProcess::MergedChannels);
+    gallery.start(QStringLiteral(TAVIK_GALLERY), arguments);
+    gallery.waitForFinished(120000);
+    return {gallery.exitStatus() == QProcess::NormalExit ? gallery.exitCode() : -1,
+            QString::fromLocal8Bit(gallery.readAll())};
+}
+
+/// The size of the text that a widget shows, empty if it shows none or may wrap it.
+QSize textSize(const QWidget *widget)
+{
+    QString text;
+    if (const auto *label = qobject_cast<const QLabel *>(widget))
+        text = label->wordWrap() ? QString() : label->text();
+    else if (const auto *button = qobject_cast<const QAbstractButton *>(widget))
+        text = button->text();
+    return text.isEmpty() ? QSize(0, 0) : widget->fontMetrics().size(Qt::TextShowMnemonic, text);
+}
+
+/// What is wrong with where a widget stands, empty if nothing is.
+QString fault(const QWidget *widget)
+{
+    const QSize text = textSize(widget);
+    if (text.width() > widget->width() || text.height() > widget->height())
+        return QStringLiteral("its text is clipped");
+    const auto *label = qobject_cast<const QLabel *>(widget);
+    if (label && label->wordWrap() && label->heightForWidth(label->width()) > label->height())
+        return QStringLiteral("its lines are clipped");
+    if (!widget->parentWidget()->rect().contains(widget->geometry()))
+        return QStringLiteral("it stands outside its parent");
+    return {};
+}
+
+} // namespace
+
+void TestGallery::nothingIsClipped_data()
+{
+    QTest::addColumn<QString>("page");
+    QTest::addColumn<int>("rem");
+    for (const PageEntry &page : pageTable()) {
+        for (int rem : Support::rems)
+            QTest::addRow("%s at %d", qPrintable(page.name), rem) << page.name << rem;
+    }
+}
+
+void TestGallery::nothingIsClipped()
+{
+    QFETCH(QString, page);
+    QFETCH(int, rem);
+    Look::apply(*qApp);
+    LenConverter::m_rem = rem;
+    Frame frame(page);
+    frame.resize(Frame::goodSize());
+    frame.grab();
+    frame.resize(frame.width(), frame.fullHeight());
+    frame.grab();
+
+    int seen = 0;
+    for (const QWidget *widget : frame.findChildren<QWidget *>()) {
+        // What a view scrolls is larger than the view on purpose.
+        const bool isScrolled =
+            widget->parentWidget()->inherits("QAbstractScrollArea") ||
+            widget->parentWidget()->objectName() == QLatin1String("qt_scrollarea_viewport");
+        if (!widget->isVisibleTo(&frame) || isScrolled)
+            continue;
+        const QString problem = fault(widget);
+        QVERIFY2(problem.isEmpty(),
+                 qPrintable(QStringLiteral("%1 \"%2\" of %3x%4: %5")
+                                .arg(QString::fromLatin1(widget->metaObject()->className()),
+                                     widget->property("text").toString())
+                                .arg(widget->width())
+                                .arg(widget->height())
+                                .arg(problem)));
+        ++seen;
+    }
+    QVERIFY(seen > 50);
+    const auto *area = frame.findChild<QScrollArea *>();
+    QVERIFY2(area->widget()->width() <= area->viewport()->width(), "the page is wider than its window");
+}
+
+void TestGallery::picturesWithoutADisplay()
+{
+    const QTemporaryDir directory;
+    const Outcome outcome =
+        runGallery({QStringLiteral("--pictures"), directory.path(), QStringLiteral("--samples"),
+                    directory.filePath(QStringLiteral("samples"))});
+    QVERIFY2(outcome.exitCode == 0, qPrintable(outcome.output));
+    for (const PageEntry &page : pageTable()) {
+        QSize smaller;
+        for (int rem : Support::rems) {
+            const QImage picture(directory.filePath(QStringLiteral("%1-%2.png").arg(page.name).arg(rem)));
+            QVERIFY(picture.width() > smaller.width() && picture.height() > smaller.height());
+            smaller = picture.size();
+        }
+    }
+    QVERIFY(!QImage(directory.filePath(QStringLiteral("samples/tavikbutton.png"))).isNull());
+}
+
+void TestGallery::badArguments_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<int>("exitCode");
+    QTest::addColumn<QString>("message");
+    QTest::newRow("page") << QStringList{QStringLiteral("--page"), QStringLiteral("nowhere")} << 2
+                          << QStringLiteral("labels, buttons");
+    QTest::newRow("rem") << QStringList{QStringLiteral("--rem"), QStringLiteral("11")} << 2
+                         << QStringLiteral("10, 12, 18, 24, 30");
+    QTest::newRow("directory") << QStringList{QStringLiteral("--pictures"), QStringLiteral("/dev/null/in")}
+                               << 1 << QStringLiteral("/dev/null/in");
+}
+
+void TestGallery::badArguments()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, message);
+    // The headless platform, for the message is there before any window.
+    const Outcome outcome =
+        runGallery(arguments + QStringList{QStringLiteral("-platform"), QStringLiteral("offscreen")});
+    QTEST(outcome.exitCode, "exitCode");
+    QVERIFY2(outcome.output.contains(message), qPrintable(outcome.output));
+}
+
+TAVIK_TEST_MAIN(TestGallery)
+#include "tst_gallery.moc"
