@@ -15,6 +15,9 @@ protected:
     /// Lets warnings that match pass in the present test function, which fails if none comes.
     void expectWarning(const QString &pattern);
 
+    /// Lets warnings that match pass in the present test function.
+    void allowWarning(const QString &pattern);
+
 private Q_SLOTS:
     void init();
     void cleanup();
@@ -47,6 +50,10 @@ QImage picture(QWidget *widget);
 
 /// Puts a widget under the pointer, as the toolkit sees it.
 void hover(QWidget *widget);
+
+/// Turns the wheel by one notch over a widget, as a real mouse does: what the widget leaves goes to its
+/// parents.
+void turnWheel(QWidget *widget);
 
 } // namespace Support
 

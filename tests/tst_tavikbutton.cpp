@@ -24,7 +24,6 @@ private Q_SLOTS:
     void pictureAndCaption();
     void pictureAndCaptionWithout();
     void sizes();
-    void metaObject();
     void fill_data();
     void fill();
     void pictureButton_data();
@@ -214,16 +213,6 @@ void TestTavikButton::sizes()
     connect(&box, qOverload<double>(&QDoubleSpinBox::valueChanged), &button, &TavikButton::setRemWidth);
     box.setValue(7);
     QCOMPARE(button.width(), 84);
-}
-
-void TestTavikButton::metaObject()
-{
-    const QMetaObject &meta = TavikButton::staticMetaObject;
-    QCOMPARE(meta.className(), "TavikButton");
-    QCOMPARE(meta.superClass(), &QPushButton::staticMetaObject);
-    QCOMPARE(meta.methodCount(), meta.methodOffset());
-    QCOMPARE(meta.propertyCount(), meta.propertyOffset());
-    QCOMPARE(meta.enumeratorCount(), meta.enumeratorOffset());
 }
 
 void TestTavikButton::fill_data()

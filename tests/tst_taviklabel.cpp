@@ -14,7 +14,6 @@ private Q_SLOTS:
     void restylesAtOnce();
     void typeWaitsForTheSheet();
     void sizes();
-    void metaObject();
     void textColours_data();
     void textColours();
     void badInput();
@@ -86,16 +85,6 @@ void TestTavikLabel::sizes()
     label.setRemWidth(5);
     label.setRemHeight(1.167);
     QCOMPARE(label.size(), QSize(60, 14));
-}
-
-void TestTavikLabel::metaObject()
-{
-    const QMetaObject &meta = TavikLabel::staticMetaObject;
-    QCOMPARE(meta.className(), "TavikLabel");
-    QCOMPARE(meta.superClass(), &QLabel::staticMetaObject);
-    QCOMPARE(meta.methodCount(), meta.methodOffset());
-    QCOMPARE(meta.propertyCount(), meta.propertyOffset());
-    QCOMPARE(meta.enumeratorCount(), meta.enumeratorOffset());
 }
 
 void TestTavikLabel::textColours_data()

@@ -31,9 +31,13 @@ class QIntValidator;
 /// A text that is not yet a value of the type, such as an empty Integer field, stays as typed and does not
 /// finish editing. The rewrite is done before any slot on `editingFinished` runs, and emits nothing itself.
 ///
-/// The rewrite reads and writes numbers in the C locale, while typing follows the widget's locale. In an
-/// application with a comma locale a typed "1,5" is accepted and then rewritten as "0.0": give such a field
-/// `setLocale(QLocale::c())`.
+/// The rewrite reads and writes numbers in the C locale, while the validator takes what is typed in the
+/// application's locale, QLocale(), as it was when the field was made. Under a comma locale "1,5" is accepted
+/// and then rewritten as "0.0". An application that runs under one gives the validator of such a field the
+/// C locale too:
+/// \code
+/// edit->findChild<QDoubleValidator *>()->setLocale(QLocale::c());
+/// \endcode
 class TAVIK_EXPORT TavikLineEdit : public RemSized<QLineEdit>
 {
     Q_OBJECT

@@ -1,0 +1,276 @@
+#include "support.h"
+
+#include <Tavik/LenConverter>
+#include <Tavik/TavikLineEdit>
+
+#include <QValidator>
+
+class TestTavikLineEdit : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void constructors();
+    void typing_data();
+    void typing();
+    void rewriteIsSilentAndFirst();
+    void rewriteInACommaLocale();
+    void setContent_data();
+    void setContent();
+    void setContentEmits();
+    void intRange();
+    void intRangeOnOtherTypes();
+    void signedDigitsTakeAnyLength();
+    void sizesAndFonts();
+    void looks_data();
+    void looks();
+};
+
+namespace {
+
+using Type = TavikLineEdit::Type;
+
+} // namespace
+
+Q_DECLARE_METATYPE(TavikLineEdit::Type)
+
+void TestTavikLineEdit::constructors()
+{
+    QWidget parent;
+    const TavikLineEdit typeFirst(QStringLiteral("hint"), TavikLineEdit::Integer, Qt::AlignCenter, &parent);
+    const TavikLineEdit alignmentFirst(QStringLiteral("hint"), Qt::AlignCenter, TavikLineEdit::Integer,
+                                       &parent);
+    for (const TavikLineEdit *edit : {&typeFirst, &alignmentFirst}) {
+        QCOMPARE(edit->placeholderText(), QStringLiteral("hint"));
+        QCOMPARE(edit->alignment(), Qt::AlignCenter);
+        QCOMPARE(edit->parentWidget(), &parent);
+        QVERIFY(edit->text().isEmpty());
+        QVERIFY(qobject_cast<const QIntValidator *>(edit->validator()));
+        QCOMPARE(edit->validator()->parent(), edit);
+        QCOMPARE(edit->font().hintingPreference(), QFont::PreferVerticalHinting);
+    }
+    const TavikLineEdit plain(QStringLiteral("hint"), &parent);
+    QCOMPARE(plain.placeholderText(), QStringLiteral("hint"));
+    QCOMPARE(plain.alignment(), Qt::AlignLeft | Qt::AlignVCenter);
+    QVERIFY(!plain.validator());
+    const TavikLineEdit outside(QString(), Type(17));
+    QVERIFY(!outside.validator() && outside.inputMask().isEmpty());
+}
+
+void TestTavikLineEdit::typing_data()
+{
+    QTest::addColumn<Type>("type");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("finished");
+    const auto add = [](const char *name, Type type, const char *typed, const char *text,
+                        int finished = 1) {
+        QTest::newRow(name) << type << QString::fromLatin1(typed) << QString::fromLatin1(text) << finished;
+    };
+    add("text", TavikLineEdit::Text, "a 1.5", "a 1.5");
+    add("integer refuses letters", TavikLineEdit::Integer, "-1a2", "-12");
+    add("integer keeps its text", TavikLineEdit::Integer, "007", "007");
+    add("empty integer is no value", TavikLineEdit::Integer, "", "", 0);
+    add("signed digits", TavikLineEdit::SignedDigits, "-0-12.3", "-0123");
+    add("a lone minus is enough", TavikLineEdit::SignedDigits, "-", "-");
+    add("no digits are enough", TavikLineEdit::SignedDigits, "", "");
+    add("one decimal", TavikLineEdit::OneDecimal, "5", "5.0");
+    add("one decimal takes no second", TavikLineEdit::OneDecimal, "1.25", "1.2");
+    add("no exponents", TavikLineEdit::OneDecimal, "1e3", "13.0");
+    add("two decimals", TavikLineEdit::TwoDecimals, "1.5", "1.50");
+    add("negative", TavikLineEdit::TwoDecimals, "-9999", "-9999.00");
+    add("beyond the top", TavikLineEdit::TwoDecimals, "99999", "9999.00");
+    add("empty decimal is no value", TavikLineEdit::OneDecimal, "", "", 0);
+    add("hexadecimal digits", TavikLineEdit::HexDigits, "fxA0g1234", "fA0123");
+    add("none of six is required", TavikLineEdit::HexDigits, "7", "7");
+}
+
+void TestTavikLineEdit::typing()
+{
+    QFETCH(Type, type);
+    QFETCH(QString, typed);
+    TavikLineEdit edit(QString(), type);
+    edit.show();
+    QSignalSpy finished(&edit, &QLineEdit::editingFinished);
+    QTest::keyClicks(&edit, typed);
+    QTest::keyClick(&edit, Qt::Key_Return);
+    QTEST(edit.text(), "text");
+    QTEST(finished.count(), "finished");
+}
+
+void TestTavikLineEdit::rewriteIsSilentAndFirst()
+{
+    TavikLineEdit edit(QString(), TavikLineEdit::TwoDecimals);
+    edit.show();
+    QString seen;
+    connect(&edit, &QLineEdit::editingFinished, this, [&] { seen = edit.text(); });
+    QTest::keyClicks(&edit, QStringLiteral("1.5"));
+    const QSignalSpy changed(&edit, &QLineEdit::textChanged);
+    QTest::keyClick(&edit, Qt::Key_Return);
+    QCOMPARE(seen, QStringLiteral("1.50"));
+    QCOMPARE(changed.count(), 0);
+    QVERIFY(!edit.signalsBlocked());
+}
+
+void TestTavikLineEdit::rewriteInACommaLocale()
+{
+    QLocale::setDefault(QLocale(QLocale::German));
+    TavikLineEdit edit(QString(), TavikLineEdit::OneDecimal);
+    QLocale::setDefault(QLocale::c());
+    edit.show();
+    QTest::keyClicks(&edit, QStringLiteral("1,5"));
+    QTest::keyClick(&edit, Qt::Key_Return);
+    QCOMPARE(edit.text(), QStringLiteral("0.0"));
+
+    // What the class's document advises.
+    edit.findChild<QDoubleValidator *>()->setLocale(QLocale::c());
+    edit.clear();
+    QTest::keyClicks(&edit, QStringLiteral("1.5"));
+    QTest::keyClick(&edit, Qt::Key_Return);
+    QCOMPARE(edit.text(), QStringLiteral("1.5"));
+}
+
+void TestTavikLineEdit::setContent_data()
+{
+    QTest::addColumn<Type>("type");
+    QTest::addColumn<QVariant>("value");
+    QTest::addColumn<QString>("text");
+    const auto add = [](const char *name, Type type, const QVariant &value, const char *text) {
+        QTest::newRow(name) << type << value << QString::fromLatin1(text);
+    };
+    const QString half = QStringLiteral("2.5");
+    const QString word = QStringLiteral("word");
+    add("integer, text", TavikLineEdit::Integer, QStringLiteral("0042"), "42");
+    add("integer, fraction in text", TavikLineEdit::Integer, half, "0");
+    add("integer, number", TavikLineEdit::Integer, -3, "-3");
+    add("integer, fraction", TavikLineEdit::Integer, 2.5, "2.5");
+    add("one decimal, text", TavikLineEdit::OneDecimal, QStringLiteral("2.26"), "2.3");
+    add("one decimal, word", TavikLineEdit::OneDecimal, word, "0.0");
+    add("one decimal, number", TavikLineEdit::OneDecimal, 3, "3.0");
+    add("one decimal, fraction", TavikLineEdit::OneDecimal, 1234567.89, "1234567.9");
+    add("two decimals, word", TavikLineEdit::TwoDecimals, word, "0.00");
+    add("two decimals, number", TavikLineEdit::TwoDecimals, 3, "3.00");
+    add("text, text", TavikLineEdit::Text, word, "word");
+    add("text, big number", TavikLineEdit::Text, 1234567.0, "1.23457e+06");
+    add("text, big whole number", TavikLineEdit::Text, 1234567, "1234567");
+    add("signed digits are not checked", TavikLineEdit::SignedDigits, word, "word");
+    add("the mask filters", TavikLineEdit::HexDigits, QStringLiteral("12xyzf"), "12f");
+    add("hexadecimal, number", TavikLineEdit::HexDigits, 10, "10");
+}
+
+void TestTavikLineEdit::setContent()
+{
+    QFETCH(Type, type);
+    QFETCH(QVariant, value);
+    TavikLineEdit edit(QString(), type);
+    if (value.type() == QVariant::Int)
+        edit.setContent(value.toInt());
+    else if (value.type() == QVariant::Double)
+        edit.setContent(value.toDouble());
+    else
+        edit.setContent(value.toString());
+    QTEST(edit.text(), "text");
+}
+
+void TestTavikLineEdit::setContentEmits()
+{
+    TavikLineEdit edit(QString(), TavikLineEdit::TwoDecimals);
+    const QSignalSpy changed(&edit, &QLineEdit::textChanged);
+    const QSignalSpy edited(&edit, &QLineEdit::textEdited);
+    const QSignalSpy finished(&edit, &QLineEdit::editingFinished);
+    edit.setContent(3);
+    edit.setContent(3.0);
+    QCOMPARE(changed.count(), 1);
+    QCOMPARE(edited.count() + finished.count(), 0);
+}
+
+void TestTavikLineEdit::intRange()
+{
+    TavikLineEdit edit(QString(), TavikLineEdit::Integer);
+    edit.setContent(300);
+    const auto *validator = qobject_cast<const QIntValidator *>(edit.validator());
+    edit.setIntRange(0, 255);
+    QCOMPARE(edit.text(), QStringLiteral("300"));
+    QCOMPARE(validator->bottom(), 0);
+    QCOMPARE(validator->top(), 255);
+
+    // Another validator of the application's is left alone.
+    QIntValidator own(1, 2, nullptr);
+    edit.setValidator(&own);
+    edit.setIntRange(3, 4);
+    QCOMPARE(validator->top(), 4);
+    QCOMPARE(own.top(), 2);
+    delete validator;
+    edit.setIntRange(5, 6);
+}
+
+void TestTavikLineEdit::intRangeOnOtherTypes()
+{
+    TavikLineEdit edit(QString(), TavikLineEdit::OneDecimal);
+    edit.setIntRange(0, 1);
+    const auto *validator = qobject_cast<const QDoubleValidator *>(edit.validator());
+    QCOMPARE(validator->bottom(), -9999.0);
+    QCOMPARE(validator->top(), 9999.0);
+    QCOMPARE(validator->decimals(), 1);
+}
+
+void TestTavikLineEdit::signedDigitsTakeAnyLength()
+{
+    TavikLineEdit edit(QString(), TavikLineEdit::SignedDigits);
+    edit.show();
+    const QString digits(60, QLatin1Char('9'));
+    QTest::keyClicks(&edit, digits);
+    QCOMPARE(edit.text(), digits);
+    const auto *validator = qobject_cast<const QRegularExpressionValidator *>(edit.validator());
+    QCOMPARE(validator->regularExpression().pattern(), QStringLiteral("^(\\-)?[0-9]*$"));
+}
+
+void TestTavikLineEdit::sizesAndFonts()
+{
+    LenConverter::m_rem = 18;
+    TavikLineEdit edit;
+    edit.setRemSize(QSizeF(10, 2));
+    QCOMPARE(edit.size(), QSize(180, 36));
+    edit.setFontRemSz(1.5);
+    QVERIFY(edit.styleSheet().contains(QLatin1String(";font-size: 27px;")));
+    edit.setFontPxSz(11);
+    QVERIFY(edit.styleSheet().contains(QLatin1String(";font-size: 11px;")));
+}
+
+void TestTavikLineEdit::looks_data()
+{
+    QTest::addColumn<QString>("state");
+    QTest::addColumn<QColor>("outer"); // the outermost pixel of the border
+    QTest::addColumn<QColor>("inner"); // the next one
+    const QColor grey("#d3d3d3");
+    const QColor green("#08a274");
+    const QColor ground(Qt::white);
+    QTest::newRow("rest") << QStringLiteral("rest") << grey << ground;
+    QTest::newRow("hover") << QStringLiteral("hover") << green << ground;
+    QTest::newRow("focus") << QStringLiteral("focus") << green << green;
+    QTest::newRow("read-only with focus") << QStringLiteral("readonly focus") << grey << ground;
+    QTest::newRow("disabled") << QStringLiteral("disabled") << grey << ground;
+}
+
+void TestTavikLineEdit::looks()
+{
+    QFETCH(QString, state);
+    QWidget window;
+    QLineEdit other(&window);
+    TavikLineEdit edit(&window);
+    edit.setGeometry(0, 40, 100, 30);
+    edit.setReadOnly(state.contains(QLatin1String("readonly")));
+    edit.setEnabled(!state.contains(QLatin1String("disabled")));
+    window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    (state.contains(QLatin1String("focus")) ? static_cast<QLineEdit *>(&edit) : &other)->setFocus();
+    if (state.contains(QLatin1String("hover")))
+        Support::hover(&edit);
+    const QImage picture = Support::picture(&edit);
+    QTEST(picture.pixelColor(50, 0), "outer");
+    QTEST(picture.pixelColor(50, 1), "inner");
+    QCOMPARE(picture.pixelColor(50, 4), QColor(Qt::white));
+}
+
+TAVIK_TEST_MAIN(TestTavikLineEdit)
+#include "tst_taviklineedit.moc"
