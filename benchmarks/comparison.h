@@ -12,10 +12,17 @@
 /// measured.
 using Work = std::function<std::function<void()>()>;
 
-/// Registers ours and the stock way as a pair, to be measured side by side in the same run.
-void compare(const std::string &name, double bound, const Work &ours, const Work &stock);
+/// Registers ours and the stock way as a pair, to be measured side by side in the same run. Slow work may
+/// ask for less repetitions than the usual ones.
+void compare(const std::string &name, double bound, const Work &ours, const Work &stock,
+             int repetitions = 0);
 
-/// Prints each pair as one row of a table: the medians of both sides, their ratio and its bound.
+/// Registers a pair of figures that are no times, in thousands of something, each taken once.
+void compareFigures(const std::string &name, double bound, const std::function<double()> &ours,
+                    const std::function<double()> &stock);
+
+/// Prints each pair as one row of a table: both sides (medians, if they are times), their ratio and its
+/// bound.
 class ComparisonReporter : public benchmark::BenchmarkReporter
 {
 public:
@@ -27,6 +34,8 @@ public:
     int overBound() const { return m_overBound; }
 
 private:
+    void printRow(const std::string &name, double ours, double stock, double bound);
+
     std::map<std::string, double> m_medians; // in milliseconds, by the benchmark's name
     int m_overBound = 0;
 };

@@ -1,4 +1,4 @@
-#include "bench_controls.h"
+#include "benches.h"
 #include "comparison.h"
 
 #include <Tavik/LenConverter>
@@ -27,7 +27,9 @@ int main(int argc, char **argv)
         return 2;
 
     registerControls();
+    registerContainers();
     ComparisonReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
+    benchmark::ClearRegisteredBenchmarks(); // their widgets must not outlive the application
     return reporter.overBound() > 0 ? 1 : 0;
 }

@@ -1,0 +1,10 @@
+#ifndef TAVIK_BENCHMARKS_BENCHES_H
+#define TAVIK_BENCHMARKS_BENCHES_H
+
+/// The making and showing of 500 of each control, against stock widgets with the same sheets.
+void registerControls();
+
+/// A step of an expandable's animation, and the filling of an image list.
+void registerContainers();
+
+#endif
