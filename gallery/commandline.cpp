@@ -56,6 +56,10 @@ QString CommandLine::read()
         return tr("No page \"%1\". Pages: %2").arg(page(), pageNames());
     if (m_parser.isSet(m_rem) && !RemChoice::remValues().contains(rem()))
         return tr("No rem \"%1\". Pixels per rem: %2").arg(m_parser.value(m_rem), remNumbers());
+    for (const QCommandLineOption &option : {m_pictures, m_samples}) {
+        if (m_parser.isSet(option) && m_parser.value(option).isEmpty())
+            return tr("--%1 needs a directory").arg(option.names().first());
+    }
     return {};
 }
 

@@ -52,7 +52,7 @@ void Frame::showPage(const QString &name)
 {
     const PageEntry *entry = findPage(name);
     m_page = name;
-    m_title->setText(entry->title);
+    m_title->setText(entry->title());
     m_scrollArea->setWidget(entry->make());
 }
 

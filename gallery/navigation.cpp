@@ -21,7 +21,7 @@ Navigation::Navigation(const QString &currentPage, QWidget *parent)
 
     TavikLabel *wordMark = Look::heading(QStringLiteral("Tavik"), 2);
     wordMark->setColor(Look::Accent.name());
-    wordMark->setIndent(margin);
+    wordMark->setIndent(margin - LenConverter::remToPx(0.333)); // a large letter stands further in
     wordMark->setRemHeight(4);
     layout->addWidget(wordMark);
     for (const PageEntry &page : pageTable())
@@ -30,13 +30,13 @@ Navigation::Navigation(const QString &currentPage, QWidget *parent)
 
     const QString versions = tr("Version %1").arg(QCoreApplication::applicationVersion());
     auto *version = new TavikLabel(versions, TavikLabel::Assist);
-    version->setIndent(margin);
+    version->setIndent(margin - LenConverter::remToPx(0.1)); // less the padding of its look
     layout->addWidget(version);
 }
 
 QWidget *Navigation::pageButton(const PageEntry &page, bool isCurrent)
 {
-    auto *button = new TavikButton(page.title, TavikButton::Toggle);
+    auto *button = new TavikButton(page.title(), TavikButton::Toggle);
     button->setRemSize(12, 2.667);
     button->setBorderWidth(QStringLiteral("0"));
     button->setBorderRadius(LenConverter::iniRemToStrPx(4));

@@ -11,24 +11,24 @@
 namespace {
 
 template <class P>
-PageEntry entry(const char *name, const QString &title)
+PageEntry entry(const char *name, const char *sourceTitle)
 {
-    return {QString::fromLatin1(name), title, []() -> Page * { return new P; }};
-}
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("PageTable", text);
+    return {QString::fromLatin1(name), sourceTitle, []() -> Page * { return new P; }};
 }
 
 } // namespace
 
+QString PageEntry::title() const
+{
+    return QCoreApplication::translate("PageTable", sourceTitle);
+}
+
 const QVector<PageEntry> &pageTable()
 {
     static const QVector<PageEntry> table{
-        entry<LabelsPage>("labels", tr(QT_TRANSLATE_NOOP("PageTable", "Labels"))),
-        entry<ButtonsPage>("buttons", tr(QT_TRANSLATE_NOOP("PageTable", "Buttons"))),
-        entry<PicturesPage>("pictures", tr(QT_TRANSLATE_NOOP("PageTable", "Pictures"))),
+        entry<LabelsPage>("labels", QT_TRANSLATE_NOOP("PageTable", "Labels")),
+        entry<ButtonsPage>("buttons", QT_TRANSLATE_NOOP("PageTable", "Buttons")),
+        entry<PicturesPage>("pictures", QT_TRANSLATE_NOOP("PageTable", "Pictures")),
     };
     return table;
 }

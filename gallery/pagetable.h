@@ -9,9 +9,12 @@ class Page;
 /// A page as the navigation and the command line know it.
 struct PageEntry
 {
-    QString name;  ///< For --page and for the names of pictures.
-    QString title; ///< For people.
+    QString name;            ///< For --page and for the names of pictures.
+    const char *sourceTitle; ///< As it stands in the source.
     Page *(*make)();
+
+    /// The title for people, in their language.
+    QString title() const;
 };
 
 /// All pages, in the order of the navigation.

@@ -44,11 +44,11 @@ need() {
 
 # build PRESET TARGET [CMAKE OPTION]...: configures and builds, quietly unless something fails.
 build() {
-    local preset=$1 target=$2
+    local preset=$1 target=$2 log=build/$1.log
     shift 2
     echo "Building $target ($preset)"
-    cmake --preset "$preset" "$@" > "/tmp/tavik-$$.log" 2>&1 \
-        && cmake --build --preset "$preset" --target "$target" > "/tmp/tavik-$$.log" 2>&1 \
-        || { cat "/tmp/tavik-$$.log"; rm "/tmp/tavik-$$.log"; exit 1; }
-    rm "/tmp/tavik-$$.log"
+    mkdir -p build
+    cmake --preset "$preset" "$@" > "$log" 2>&1 \
+        && cmake --build --preset "$preset" --target "$target" > "$log" 2>&1 \
+        || { cat "$log"; exit 1; }
 }

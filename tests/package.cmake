@@ -31,7 +31,7 @@ configure_and_build(library "${SOURCE}" -D BUILD_TESTING=OFF -D TAVIK_BUILD_GALL
 run("${CMAKE_COMMAND}" --install "${SCRATCH}/library" --prefix "${prefix}")
 
 file(GLOB_RECURSE installed RELATIVE "${prefix}" "${prefix}/*")
-if(NOT installed MATCHES "libTavik\\.so\\.0(;|$)" OR installed MATCHES "_p\\.h")
+if(NOT installed MATCHES "libTavik\\.so\\.0\\.1(;|$)" OR installed MATCHES "_p\\.h")
     message(FATAL_ERROR "Wrong files were installed: ${installed}")
 endif()
 file(GLOB library "${prefix}/*/libTavik.so" "${prefix}/*/*/libTavik.so")
@@ -57,8 +57,9 @@ endif()
 get_filename_component(library_directory "${library}" DIRECTORY)
 set(ENV{PKG_CONFIG_PATH} "${library_directory}/pkgconfig")
 set(ENV{LD_LIBRARY_PATH} "${library_directory}")
-run(sh -c "c++ -std=c++17 -fPIC '${consumer}/main.cpp' -o '${SCRATCH}/by-pkg-config' \
-    $(pkg-config --cflags --libs Tavik)")
+run(pkg-config --cflags --libs Tavik)
+separate_arguments(flags UNIX_COMMAND "${output}")
+run(c++ -std=c++17 -fPIC "${consumer}/main.cpp" -o "${SCRATCH}/by-pkg-config" ${flags})
 run("${SCRATCH}/by-pkg-config")
 
 # readme_block(<language> <file>): the README's first block in that language.

@@ -146,6 +146,8 @@ void TestGallery::badArguments_data()
                           << QStringLiteral("labels, buttons");
     QTest::newRow("rem") << QStringList{QStringLiteral("--rem"), QStringLiteral("11")} << 2
                          << QStringLiteral("10, 12, 18, 24, 30");
+    QTest::newRow("no directory") << QStringList{QStringLiteral("--pictures"), QString()} << 2
+                                  << QStringLiteral("--pictures needs a directory");
     QTest::newRow("directory") << QStringList{QStringLiteral("--pictures"), QStringLiteral("/dev/null/in")}
                                << 1 << QStringLiteral("/dev/null/in");
 }

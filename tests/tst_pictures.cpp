@@ -97,7 +97,8 @@ void TestPictures::drawing_data()
         {{0.5, 0.65, "#333333"}, {0.25, 0.36, "#333333"}, {0.75, 0.36, "#333333"}, {0.25, 0.65, none}});
     add("Expandable/images/unexpanded", box1024, "18", "18",
         {{0.35, 0.5, "#2c2c2c"}, {0.64, 0.25, "#2c2c2c"}, {0.64, 0.75, "#2c2c2c"}, {0.35, 0.25, none}});
-    add("SeperateLine/images/seperate_line", QString(), "280", "1", {{0.01, 0.5, none}});
+    add("SeperateLine/images/seperate_line", QString(), "280", "1",
+        {{0.01, 0.5, none}, {0.52, 0.5, "#e5e5e5"}});
 
     add("Color/images/color_picker", QStringLiteral("0 0 1028 1024"), "200.78125", "200",
         {{0.8, 0.2, "#666666"}, {0.5, 0.9, none}, {0.2, 0.2, none}, {0.12, 0.88, "#666666"}});

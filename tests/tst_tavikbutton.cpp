@@ -307,9 +307,8 @@ void TestTavikButton::pictureButtonWithoutIcon()
     button.setGeometry(0, 0, 60, 30);
     ground.resize(60, 30);
     const QImage picture = Support::picture(&ground);
-    const QRgb empty = picture.pixel(0, 0);
     for (int x = 0; x < 60; ++x)
-        QCOMPARE(picture.pixel(x, 15), empty);
+        QCOMPARE(picture.pixelColor(x, 15), QColor(Qt::magenta));
     QSignalSpy clicked(&button, &QPushButton::clicked);
     QTest::mouseClick(&button, Qt::LeftButton);
     QCOMPARE(clicked.count(), 1);

@@ -28,7 +28,7 @@ TavikButton *pictureButton(const QString &set)
 {
     auto *button = new TavikButton(TavikButton::Flat);
     const QString path = QStringLiteral(":/Color/images/") + set;
-    button->setIcon(IconTool::constructIcon(path, LenConverter::iniRemToPxSz(32, 32)));
+    button->setIcon(IconTool::constructIcon(path, QSize(32, 32)));
     button->setIsPaintOverrided(true);
     button->setCheckable(true);
     button->setRemSize(2.667, 2.667);
@@ -135,7 +135,8 @@ void ButtonsPage::addCorners()
                Look::row({round, thick}),
                QStringLiteral("round->setBorderRadius(LenConverter::iniRemToStrPx(16));\n"
                               "round->updateStyleSheet();\n"
-                              "thick->setBorderWidth(LenConverter::iniRemToStrPx(2));"));
+                              "thick->setBorderWidth(LenConverter::iniRemToStrPx(2));\n"
+                              "thick->updateStyleSheet();"));
 }
 
 void ButtonsPage::addFontSize()
@@ -169,7 +170,8 @@ void ButtonsPage::addPictureButton()
                QStringLiteral(
                    "button->setIcon(IconTool::constructIcon(\":/Color/images/gradient\", QSize(32, 32)));\n"
                    "button->setIsPaintOverrided(true);\n"
-                   "button->setCheckable(true);"));
+                   "button->setCheckable(true);\n"
+                   "button->setRemSize(2.667, 2.667);"));
 }
 
 void ButtonsPage::addCaption()
@@ -191,6 +193,7 @@ void ButtonsPage::addCaption()
                               "    \":/Color/images/color_picker.svg\", QSize(20, 20),\n"
                               "    new TavikLabel(tr(\"Pick a colour\")), this);\n"
                               "pick->initStyleProperties(TavikButton::Outline);\n"
+                              "pick->setBorderColor(\"#d3d3d3\");\n"
                               "pick->updateStyleSheet();\n"
                               "pick->setRemSize(12, 3.333);"));
 }

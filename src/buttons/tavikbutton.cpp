@@ -64,10 +64,7 @@ TavikButton::TavikButton(const QString &imagePath, const QSize &imageSize, QLabe
     box->addWidget(picture);
     picture->setFixedSize(LenConverter::iniRemToPxSz(imageSize.width(), imageSize.height()));
     picture->setScaledContents(true);
-    QPixmap pixmap(picture->size());
-    pixmap.fill(Qt::transparent); // an empty path leaves the pixmap untouched
-    pixmap.load(imagePath);
-    picture->setPixmap(pixmap);
+    picture->setPixmap(QPixmap(imagePath));
 
     box->addWidget(label);
 }

@@ -23,8 +23,9 @@ class QLabel;
 /// ok->setHoverBgColor("#48aaee");
 /// ok->updateStyleSheet();
 /// \endcode
-/// Colours and pixel strings go into the sheet unchecked: with a text that is neither, the toolkit drops
-/// the rule or the sheet, with a warning. A disabled button changes its text colour only, to #909090.
+/// Colours and pixel strings go into the sheet unchecked: with a text that is neither, the toolkit falls
+/// back to a value of its own, or, where the sheet can't be read any more, drops it with a warning. A
+/// disabled button changes its text colour only, to #909090.
 ///
 /// Icon and text stand close together, as the toolkit puts them: a blank before the text keeps them apart.
 class TAVIK_EXPORT TavikButton : public RemSized<QPushButton>
@@ -53,11 +54,12 @@ public:
     /// A button without text in the look of Solid, as Qt Designer makes it.
     explicit TavikButton(QWidget *parent);
 
-    /// A button with an icon and a text; the icon's size is in rem. A QSize is taken too, as rem.
+    /// A button with an icon and a text; the icon's size is in rem. A QSize is taken too, as rem. With a
+    /// size that is negative the icon takes the toolkit's own.
     TavikButton(const QIcon &icon, const QSizeF &iconRemSize, const QString &text, Type type = Solid,
                 QWidget *parent = nullptr);
 
-    /// A button with an icon; its size is in rem. Write the type out: `{16, 16}` is ambiguous.
+    /// A button with an icon; its size is in rem, see above. Write the type out: `{16, 16}` is ambiguous.
     TavikButton(const QIcon &icon, const QSizeF &iconRemSize, Type type = Solid, QWidget *parent = nullptr);
 
     /// A button with an icon; its size is in pixels and does not grow with the rem. Write the type out:
@@ -67,8 +69,9 @@ public:
     /// A button that holds a picture and, beside it, the caller's label, which it takes over.
     ///
     /// `imageSize` is in design pixels; the picture is scaled to it, and stays empty if `imagePath`
-    /// can't be read. The button has the toolkit's own look until updateStyleSheet() is called, and, as
-    /// the toolkit measures the button's text alone, wants a size: setRemSize().
+    /// can't be read. Without a label, only the picture is there, and the toolkit warns. The button has the
+    /// toolkit's own look until updateStyleSheet() is called, and, as the toolkit measures the button's
+    /// text alone, wants a size: setRemSize().
     TavikButton(const QString &imagePath, const QSize &imageSize, QLabel *label, QWidget *parent = nullptr);
 
     /// Gives the style properties the values of a type, and makes a Toggle checkable; a type outside the
@@ -78,10 +81,10 @@ public:
     /// Builds the style sheet anew and sets it.
     void updateStyleSheet();
 
-    /// Sets the font size in rem and restyles.
+    /// Sets the font size in rem and restyles; the toolkit warns of a size that is not above 0.
     void setFontRemSz(double rem);
 
-    /// Sets the font size in pixels, without scaling, and restyles.
+    /// Sets the font size in pixels, without scaling, and restyles; otherwise as setFontRemSz().
     void setFontPxSz(int px);
 
     /// Whether the button paints its icon alone, over its whole area.
@@ -91,8 +94,8 @@ public:
     ///
     /// A picture button draws nothing but its icon, scaled to its own size: the drawing of
     /// QIcon::Selected when it is checked, of QIcon::Active when the pointer is over it, else of
-    /// QIcon::Normal. Without an icon it draws nothing, and still takes clicks. See
-    /// IconTool::constructIcon().
+    /// QIcon::Normal. Without an icon it draws nothing, and still takes clicks. Give it the shape of its
+    /// drawings, or they are stretched. See IconTool::constructIcon().
     void setIsPaintOverrided(bool isPaintOverrided);
 
     /// Fill at rest.

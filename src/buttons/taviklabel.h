@@ -50,7 +50,7 @@ public:
     /// Sets the text colour and restyles. A disabled label is #e0e0e0 whatever is set here.
     void setColor(const QString &color);
 
-    /// Sets the font size in rem and restyles.
+    /// Sets the font size in rem and restyles; the toolkit warns of a size that is not above 0.
     void setFontRemSz(double rem);
 
     /// Fixes the width, in rem; what is negative counts as 0.

@@ -14,6 +14,7 @@
 /// auto *button = new TavikButton(TavikButton::Flat, this);
 /// button->setIcon(IconTool::constructIcon(":/Color/images/gradient", QSize(16, 16)));
 /// button->setIsPaintOverrided(true);
+/// button->setRemSize(2, 2);
 /// \endcode
 /// The drawings are SVG files: where the toolkit's SVG plugin is missing, they stay invisible.
 class TAVIK_EXPORT IconTool

@@ -42,7 +42,7 @@ public:
     /// without a screen the width counts as 0.
     static void initRem();
 
-    /// Pixels per rem: 0 before initRem(), then 10, 12, 18, 24 or 30.
+    /// Pixels per rem: 0 before initRem(), and 10, 12, 18, 24 or 30 as it chooses them.
     static int rem();
 
     /// Width in pixels of the primary screen's available area (without panels and docks), 0 if there is
@@ -89,8 +89,8 @@ public:
     /// Has no meaning before initRem().
     static QString strPxToStrRem(const QString &px);
 
-    /// Pixels per rem, as initRem() chose them. An application that lets its users choose a size of
-    /// their own may write it, before it creates the controls that shall follow.
+    /// Pixels per rem. The library writes it in initRem() alone. An application that lets its users choose
+    /// a size of their own may write it too, before it creates the controls that shall follow.
     static int m_rem;
 };
 
