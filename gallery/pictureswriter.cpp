@@ -9,9 +9,23 @@
 
 #include <QDir>
 #include <QPixmap>
+#include <QPropertyAnimation>
 #include <QTextStream>
 
 #include <Tavik/LenConverter>
+
+namespace {
+
+/// Brings what is moving to its end, as nothing moves without an event loop.
+void settle(const QWidget &widget)
+{
+    for (auto *animation : widget.findChildren<QPropertyAnimation *>()) {
+        const bool isForward = animation->direction() == QAbstractAnimation::Forward;
+        animation->setCurrentTime(isForward ? animation->duration() : 0);
+    }
+}
+
+} // namespace
 
 PicturesWriter::PicturesWriter(const QString &directory)
     : m_directory(directory)
@@ -25,6 +39,7 @@ bool PicturesWriter::writePages() const
         LenConverter::m_rem = rem;
         for (const PageEntry &page : pageTable()) {
             Frame frame(page.name);
+            settle(frame);
             frame.resize(Frame::goodSize());
             // Heights are known once everything is polished and laid out, which painting sees to.
             frame.grab();
@@ -41,6 +56,7 @@ bool PicturesWriter::writeSamples() const
     LenConverter::m_rem = 12;
     for (const Sample &sample : sampleTable()) {
         const std::unique_ptr<QWidget> widget(sample.make());
+        settle(*widget);
         widget->setAutoFillBackground(true);
         widget->setBackgroundRole(QPalette::Base);
         widget->adjustSize();

@@ -9,7 +9,7 @@ class QWidget;
 namespace Specimen {
 
 /// Rest is a control as it comes, which answers to the pointer; the others are held.
-enum class State { Rest, Hover, Pressed, Checked, Disabled };
+enum class State { Rest, Hover, Pressed, Focus, Checked, ReadOnly, Disabled };
 
 /// The state's name, for people.
 QString stateName(State state);
