@@ -1,6 +1,7 @@
 #include "pagetable.h"
 
 #include "pages/buttonspage.h"
+#include "pages/inputspage.h"
 #include "pages/labelspage.h"
 #include "pages/picturespage.h"
 
@@ -28,6 +29,7 @@ const QVector<PageEntry> &pageTable()
     static const QVector<PageEntry> table{
         entry<LabelsPage>("labels", tr(QT_TRANSLATE_NOOP("PageTable", "Labels"))),
         entry<ButtonsPage>("buttons", tr(QT_TRANSLATE_NOOP("PageTable", "Buttons"))),
+        entry<InputsPage>("inputs", tr(QT_TRANSLATE_NOOP("PageTable", "Inputs"))),
         entry<PicturesPage>("pictures", tr(QT_TRANSLATE_NOOP("PageTable", "Pictures"))),
     };
     return table;
