@@ -1,6 +1,7 @@
 #include "pagetable.h"
 
 #include "pages/buttonspage.h"
+#include "pages/choicespage.h"
 #include "pages/inputspage.h"
 #include "pages/labelspage.h"
 #include "pages/picturespage.h"
@@ -30,6 +31,7 @@ const QVector<PageEntry> &pageTable()
         entry<LabelsPage>("labels", tr(QT_TRANSLATE_NOOP("PageTable", "Labels"))),
         entry<ButtonsPage>("buttons", tr(QT_TRANSLATE_NOOP("PageTable", "Buttons"))),
         entry<InputsPage>("inputs", tr(QT_TRANSLATE_NOOP("PageTable", "Inputs"))),
+        entry<ChoicesPage>("choices", tr(QT_TRANSLATE_NOOP("PageTable", "Choices"))),
         entry<PicturesPage>("pictures", tr(QT_TRANSLATE_NOOP("PageTable", "Pictures"))),
     };
     return table;

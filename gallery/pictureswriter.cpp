@@ -19,7 +19,8 @@ namespace {
 /// Brings what is moving to its end, as nothing moves without an event loop.
 void settle(const QWidget &widget)
 {
-    for (auto *animation : widget.findChildren<QPropertyAnimation *>()) {
+    const QList<QPropertyAnimation *> animations = widget.findChildren<QPropertyAnimation *>();
+    for (QPropertyAnimation *animation : animations) {
         const bool isForward = animation->direction() == QAbstractAnimation::Forward;
         animation->setCurrentTime(isForward ? animation->duration() : 0);
     }

@@ -91,7 +91,9 @@ void Specimen::hold(QWidget *control, State state)
     // The real pointer and the keyboard would take the control out of its state.
     control->setAttribute(Qt::WA_TransparentForMouseEvents);
     control->setFocusPolicy(Qt::NoFocus);
+    // The points for the pointer are those of its own size.
     control->ensurePolished();
+    control->adjustSize();
     if (state == State::Hover)
         hover(control);
     if (state == State::Pressed)
