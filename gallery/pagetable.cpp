@@ -2,6 +2,7 @@
 
 #include "pages/buttonspage.h"
 #include "pages/choicespage.h"
+#include "pages/containerspage.h"
 #include "pages/inputspage.h"
 #include "pages/labelspage.h"
 #include "pages/picturespage.h"
@@ -32,6 +33,7 @@ const QVector<PageEntry> &pageTable()
         entry<ButtonsPage>("buttons", tr(QT_TRANSLATE_NOOP("PageTable", "Buttons"))),
         entry<InputsPage>("inputs", tr(QT_TRANSLATE_NOOP("PageTable", "Inputs"))),
         entry<ChoicesPage>("choices", tr(QT_TRANSLATE_NOOP("PageTable", "Choices"))),
+        entry<ContainersPage>("containers", tr(QT_TRANSLATE_NOOP("PageTable", "Containers"))),
         entry<PicturesPage>("pictures", tr(QT_TRANSLATE_NOOP("PageTable", "Pictures"))),
     };
     return table;

@@ -87,13 +87,14 @@ QWidget *GroupSpecimens::pictures()
 
 QWidget *GroupSpecimens::radioButtons()
 {
-    const auto radioGroup = [](Direction direction) {
+    const auto radioGroup = [](Direction direction, const QStringList &texts) {
         auto *group = new TavikButtonGroup(direction, FontSize, buttonSize, TavikButtonGroup::Exclusive, 1);
-        for (const QString &text : {tr("Always"), tr("Once a day"), tr("Never")})
+        for (const QString &text : texts)
             group->addRadioButton(text);
         group->setCheckedId(1);
         return group;
     };
     return Look::row(
-        {live(tr("Horizontal"), radioGroup(Horizontal)), live(tr("Vertical"), radioGroup(Vertical))});
+        {live(tr("Backup"), radioGroup(Vertical, {tr("Always"), tr("Once a day"), tr("Never")})),
+         live(tr("Sound"), radioGroup(Horizontal, {tr("On"), tr("Off")}))});
 }
