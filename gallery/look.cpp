@@ -17,7 +17,6 @@ QPalette lightPalette()
                      Qt::white, Qt::white, Look::Ground);
     palette.setColor(QPalette::Highlight, Look::Accent);
     palette.setColor(QPalette::HighlightedText, Qt::white);
-    palette.setColor(QPalette::PlaceholderText, QColor(0x90, 0x90, 0x90));
     palette.setColor(QPalette::ToolTipBase, Qt::white);
     palette.setColor(QPalette::ToolTipText, Look::Text);
     return palette;

@@ -4,11 +4,13 @@
 #include <QAbstractSpinBox>
 #include <QComboBox>
 #include <QCoreApplication>
+#include <QDial>
 #include <QMouseEvent>
 
 namespace {
 
-/// Where a pointer does something: on the upper step button, on the arrow, on a handle in the middle.
+/// Where a pointer does something: on the upper step button, on the arrow, on a handle that stands in the
+/// middle.
 QPoint livePoint(const QWidget *control)
 {
     const QRect area = control->rect();
@@ -16,6 +18,8 @@ QPoint livePoint(const QWidget *control)
         return {area.right() - area.height() / 4, area.height() / 4};
     if (qobject_cast<const QComboBox *>(control))
         return {area.right() - area.height() / 4, area.height() / 2};
+    if (qobject_cast<const QDial *>(control))
+        return {area.center().x(), area.height() / 5};
     return area.center();
 }
 

@@ -5,6 +5,7 @@
 
 #include <QGridLayout>
 #include <QScrollBar>
+#include <QVBoxLayout>
 
 #include <Tavik/TavikButton>
 #include <Tavik/TavikCheckBox>
@@ -86,12 +87,12 @@ QWidget *ContainerSpecimens::expandable(bool isOpen)
     auto *radius = new TavikSpinbox(0, 40);
     radius->setRemSize(10, 2.667);
     form->addWidget(Look::flush(new TavikLabel(tr("Opacity"))), 0, 0);
-    form->addWidget(new TavikSlider(14.0, 2), 0, 1);
+    form->addWidget(new TavikSlider(14.0, 3), 0, 1);
     form->addWidget(Look::flush(new TavikLabel(tr("Radius"))), 1, 0);
     form->addWidget(radius, 1, 1);
     form->addWidget(new TavikCheckBox(tr("Behind the text too")), 2, 1);
 
-    auto *panel = new TavikExpandable(tr("Shadow"), 11, isOpen);
+    auto *panel = new TavikExpandable(tr("Shadow"), 12, isOpen);
     panel->setRemWidth(36);
     panel->addLayout(form);
     auto *report = new Report(30);

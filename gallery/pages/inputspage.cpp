@@ -82,7 +82,7 @@ void InputsPage::addSliders()
         tr("A double as first length means rem for both, an int pixels. Groove and handle are pixels on "
            "every screen. The wheel neither moves it nor scrolls the page."),
         SliderSpecimens::sliders(),
-        QStringLiteral("new TavikSlider(12.0, 2, this);   // rem\n"
+        QStringLiteral("new TavikSlider(12.0, 3, this);   // rem\n"
                        "new TavikSlider(150, 24, this);   // pixels"));
     addExample(Half, tr("Dial"),
                tr("In the toolkit's look. The wheel neither turns it nor scrolls the page."),

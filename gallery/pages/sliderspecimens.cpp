@@ -36,7 +36,7 @@ QWidget *inTheMiddle(QAbstractSlider *slider)
 
 QWidget *SliderSpecimens::sliders()
 {
-    return Look::row({live(tr("12 by 2 rem"), new TavikSlider(12.0, 2), 40),
+    return Look::row({live(tr("12 by 3 rem"), new TavikSlider(12.0, 3), 40),
                       live(tr("150 by 24 pixels"), new TavikSlider(150, 24), 40)});
 }
 
@@ -56,7 +56,7 @@ QWidget *SliderSpecimens::states()
 {
     using Specimen::State;
     auto *grid = new StateGrid({State::Rest, State::Hover, State::Pressed, State::Disabled});
-    grid->addRow(QStringLiteral("TavikSlider"), [] { return inTheMiddle(new TavikSlider(14.0, 2)); });
+    grid->addRow(QStringLiteral("TavikSlider"), [] { return inTheMiddle(new TavikSlider(14.0, 3)); });
     grid->addRow(QStringLiteral("TavikDial"), [] { return inTheMiddle(dial(5)); });
     return grid;
 }
