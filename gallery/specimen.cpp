@@ -1,6 +1,7 @@
 #include "specimen.h"
 
 #include <QAbstractButton>
+#include <QAbstractEventDispatcher>
 #include <QAbstractSpinBox>
 #include <QComboBox>
 #include <QCoreApplication>
@@ -40,15 +41,13 @@ void press(QWidget *control)
     hover(control);
     if (auto *button = qobject_cast<QAbstractButton *>(control)) {
         button->setDown(true);
-    } else if (qobject_cast<QAbstractSpinBox *>(control)) {
-        // The pointer would step on and on; a key that is not released steps once.
-        QKeyEvent key(QEvent::KeyPress, Qt::Key_Up, Qt::NoModifier);
-        QCoreApplication::sendEvent(control, &key);
-    } else {
-        QMouseEvent click(QEvent::MouseButtonPress, livePoint(control), Qt::LeftButton, Qt::LeftButton,
-                          Qt::NoModifier);
-        QCoreApplication::sendEvent(control, &click);
+        return;
     }
+    QMouseEvent click(QEvent::MouseButtonPress, livePoint(control), Qt::LeftButton, Qt::LeftButton,
+                      Qt::NoModifier);
+    QCoreApplication::sendEvent(control, &click);
+    // A spin box would step on and on by its timers.
+    QAbstractEventDispatcher::instance()->unregisterTimers(control);
 }
 
 void focus(QWidget *control)

@@ -2,9 +2,9 @@
 
 #include "filedrop.h"
 #include "look.h"
+#include "ownpictures.h"
 #include "report.h"
 
-#include <QDir>
 #include <QFileDialog>
 #include <QImageReader>
 #include <QVBoxLayout>
@@ -20,7 +20,7 @@ ImageListSpecimen::ImageListSpecimen(QWidget *parent)
     m_list->setIconRemSz(18, 13.5);
     m_list->setSpacing(LenConverter::iniRemToPx(4));
     m_list->setFixedHeight(LenConverter::remToPx(31));
-    addPictures(ownPictures());
+    addPictures(OwnPictures::paths());
     connect(m_list, &QListWidget::itemSelectionChanged, m_report, [this] {
         m_report->tell(QStringLiteral("itemSelectionChanged"),
                        tr("%n selected", nullptr, m_list->selectedItems().size()));
@@ -44,17 +44,6 @@ void ImageListSpecimen::addPictures(const QStringList &files)
         if (QImageReader(file).canRead())
             m_list->addImage(file);
     }
-}
-
-QStringList ImageListSpecimen::ownPictures()
-{
-    // The pictures are in a static library, where nothing else asks for them.
-    Q_INIT_RESOURCE(gallery);
-    QStringList paths;
-    const QFileInfoList files = QDir(QStringLiteral(":/gallery/pictures")).entryInfoList();
-    for (const QFileInfo &file : files)
-        paths.append(file.filePath());
-    return paths;
 }
 
 void ImageListSpecimen::choosePictures()

@@ -19,9 +19,6 @@ public:
     /// Adds those of the files that are pictures.
     void addPictures(const QStringList &files);
 
-    /// The paths of the gallery's own pictures.
-    static QStringList ownPictures();
-
 private:
     void choosePictures();
 
