@@ -21,7 +21,7 @@ void ChoicesPage::addBars()
         tr("Without spacing, text buttons share their borders. Ids count from 0 in the order of adding."),
         GroupSpecimens::bar(),
         QStringLiteral("auto *align = new TavikButtonGroup(\n"
-                       "    Horizontal, 1.167, QSizeF(8, 2.667));   // font, button\n"
+                       "    Horizontal, 1.167, QSizeF(8, 2.667));\n"
                        "align->addTextButton(tr(\"Left\"));\n"
                        "align->setCheckedId(0);"));
     addExample(
@@ -67,14 +67,14 @@ void ChoicesPage::addBoxesAndRadioButtons()
                tr("With three states, the middle one has no picture of its own and looks as the toolkit "
                   "draws it."),
                CheckSpecimens::checkBoxes(),
-               QStringLiteral("auto *grid = new TavikCheckBox(tr(\"Show the grid\"), this);\n"
+               QStringLiteral("auto *grid = new TavikCheckBox(tr(\"Grid\"), this);\n"
                               "connect(grid, &QCheckBox::toggled,\n"
                               "        view, &View::setGridVisible);"));
     addExample(Half, tr("Radio button"),
                tr("Radio buttons of one parent exclude each other; elsewhere a QButtonGroup sees to it."),
                CheckSpecimens::radioButtons(),
                QStringLiteral("auto *paper = new TavikRadioButton(tr(\"Paper\"), this);\n"
-                              "auto *screen = new TavikRadioButton(tr(\"Screen\"), this);\n"
+                              "new TavikRadioButton(tr(\"Screen\"), this);\n"
                               "paper->setChecked(true);"));
     addExample(
         Whole, tr("Check box and radio button: states"),
@@ -99,7 +99,7 @@ void ChoicesPage::addComboBoxes()
            "wheel changes the choice."),
         ComboSpecimens::types(),
         QStringLiteral("auto *unit = new TavikComboBox(this);\n"
-                       "auto *size = new TavikComboBox(TavikComboBox::Editable, this);\n"
+                       "new TavikComboBox(TavikComboBox::Editable, this);\n"
                        "unit->addItems({tr(\"Pixels\"), tr(\"Inches\")});"));
     addExample(
         Half, tr("Font families"),

@@ -48,8 +48,13 @@ QWidget *ComboSpecimens::types()
 QWidget *ComboSpecimens::fontFamilies()
 {
     auto *families = new TavikFontFamilyComboBox;
-    TavikLabel *sample = Look::heading(tr("Quick zephyrs blow"), 2);
-    const auto show = [sample](const QString &family) {
+    TavikLabel *sample = Look::flush(new TavikLabel(tr("Quick zephyrs blow")));
+    sample->setFontRemSz(1.667);
+    sample->setRemWidth(22);
+    const auto show = [families, sample](const QString &family) {
+        // While a name is typed, there is no such family yet.
+        if (families->findText(family, Qt::MatchFixedString) < 0)
+            return;
         QFont font = sample->font();
         font.setFamily(family);
         sample->setFont(font);

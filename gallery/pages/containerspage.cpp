@@ -37,13 +37,15 @@ void ContainersPage::addExpandables()
                tr("A press anywhere on the title row opens or closes it, in half a second. What is below "
                   "follows."),
                ContainerSpecimens::expandable(true),
-               QStringLiteral("auto *shadow = new TavikExpandable(tr(\"Shadow\"), 12, true);\n"
+               QStringLiteral("auto *shadow = new TavikExpandable(tr(\"Shadow\"),\n"
+                              "                                   12, true);\n"
                               "shadow->setRemWidth(36);\n"
                               "shadow->addLayout(form);"));
     addExample(Half, tr("Panel, closed"),
                tr("The height, in rem, is the one that it will have when it is open."),
                ContainerSpecimens::expandable(false),
-               QStringLiteral("auto *shadow = new TavikExpandable(tr(\"Shadow\"), 12, false);\n"
+               QStringLiteral("auto *shadow = new TavikExpandable(tr(\"Shadow\"),\n"
+                              "                                   12, false);\n"
                               "connect(shadow, &TavikExpandable::animationFinished,\n"
                               "        this, &Settings::rememberWhatIsOpen);"));
 }

@@ -46,7 +46,7 @@ void InputsPage::addLineEdits()
     addExample(Half, tr("Line edit: range and alignment"),
                tr("The range is for Integer: 300 can be typed here, but doesn't finish editing."),
                LineEditSpecimens::rangeAndAlignment(),
-               QStringLiteral("auto *red = new TavikLineEdit(\"0\u2013255\", Qt::AlignCenter,\n"
+               QStringLiteral("auto *red = new TavikLineEdit(tr(\"Red\"), Qt::AlignCenter,\n"
                               "                              TavikLineEdit::Integer);\n"
                               "red->setIntRange(0, 255);"));
 }
@@ -57,8 +57,8 @@ void InputsPage::addSpinBoxes()
                tr("For whole numbers and for two decimals. The wheel ends here: over a spin box it neither "
                   "steps nor scrolls the page."),
                SpinboxSpecimens::numbers(),
-               QStringLiteral("auto *copies = new TavikSpinbox(1, 99, 1, this);\n"
-                              "auto *zoom = new TavikDoubleSpinbox(0.25, 4.0, 0.25, this);"));
+               QStringLiteral("new TavikSpinbox(1, 99, 1, this);\n"
+                              "new TavikDoubleSpinbox(0.25, 4, 0.25, this);"));
     addExample(
         Half, tr("Spin box without buttons"),
         tr("The arrow keys still step. A font size of its own goes into the constructor, as setFontRemSz "
