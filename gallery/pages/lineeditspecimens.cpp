@@ -34,13 +34,16 @@ QWidget *LineEditSpecimens::types()
     const auto field = [](const QString &name, const QString &placeholder, TavikLineEdit::Type type) {
         return live(name, new TavikLineEdit(placeholder, type));
     };
+    // Its six places are there from the start: a click into empty ones would begin in their middle.
+    auto *color = new TavikLineEdit(QString(), TavikLineEdit::HexDigits);
+    color->setContent(QStringLiteral("08a274"));
     return Look::row(
         {field(QStringLiteral("Text"), tr("Anything"), TavikLineEdit::Text),
          field(QStringLiteral("Integer"), tr("Whole number"), TavikLineEdit::Integer),
          field(QStringLiteral("SignedDigits"), tr("Any digits"), TavikLineEdit::SignedDigits),
          field(QStringLiteral("OneDecimal"), QStringLiteral("0.0"), TavikLineEdit::OneDecimal),
          field(QStringLiteral("TwoDecimals"), QStringLiteral("0.00"), TavikLineEdit::TwoDecimals),
-         field(QStringLiteral("HexDigits"), tr("Six places"), TavikLineEdit::HexDigits)});
+         live(QStringLiteral("HexDigits"), color)});
 }
 
 QWidget *LineEditSpecimens::contents()
