@@ -176,7 +176,7 @@ QWidget *imageList()
     const QStringList pictures = OwnPictures::paths();
     for (const QString &picture : pictures.mid(0, 3))
         list->addImage(picture);
-    list->setRemWidth(21);
+    list->setRemWidth(22);
     list->setFixedHeight(LenConverter::remToPx(5.167));
     return list;
 }
