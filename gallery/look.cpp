@@ -86,6 +86,19 @@ QWidget *Look::captioned(QWidget *widget, const QString &caption)
     return column;
 }
 
+QWidget *Look::live(const QString &name, QWidget *control, QWidget *report)
+{
+    auto *column = new QWidget;
+    auto *layout = new QVBoxLayout(column);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(LenConverter::iniRemToPx(6));
+    layout->addWidget(flush(new TavikLabel(name)));
+    layout->addWidget(control, 0, Qt::AlignLeft);
+    layout->addWidget(report);
+    layout->addStretch();
+    return column;
+}
+
 QWidget *Look::row(std::initializer_list<QWidget *> widgets)
 {
     auto *row = new QWidget;

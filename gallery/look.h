@@ -40,6 +40,9 @@ TavikLabel *paragraph(const QString &text);
 /// A widget with its caption beneath, both from the left.
 QWidget *captioned(QWidget *widget, const QString &caption);
 
+/// A name, a control and what it reports, one below the other, from the left.
+QWidget *live(const QString &name, QWidget *control, QWidget *report);
+
 /// Widgets side by side, at their own sizes, from the left.
 QWidget *row(std::initializer_list<QWidget *> widgets);
 

@@ -1,6 +1,9 @@
 #include "pagetable.h"
 
 #include "pages/buttonspage.h"
+#include "pages/choicespage.h"
+#include "pages/containerspage.h"
+#include "pages/inputspage.h"
 #include "pages/labelspage.h"
 #include "pages/picturespage.h"
 
@@ -28,6 +31,9 @@ const QVector<PageEntry> &pageTable()
     static const QVector<PageEntry> table{
         entry<LabelsPage>("labels", QT_TRANSLATE_NOOP("PageTable", "Labels")),
         entry<ButtonsPage>("buttons", QT_TRANSLATE_NOOP("PageTable", "Buttons")),
+        entry<InputsPage>("inputs", QT_TRANSLATE_NOOP("PageTable", "Inputs")),
+        entry<ChoicesPage>("choices", QT_TRANSLATE_NOOP("PageTable", "Choices")),
+        entry<ContainersPage>("containers", QT_TRANSLATE_NOOP("PageTable", "Containers")),
         entry<PicturesPage>("pictures", QT_TRANSLATE_NOOP("PageTable", "Pictures")),
     };
     return table;

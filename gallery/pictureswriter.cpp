@@ -9,9 +9,24 @@
 
 #include <QDir>
 #include <QPixmap>
+#include <QPropertyAnimation>
 #include <QTextStream>
 
 #include <Tavik/LenConverter>
+
+namespace {
+
+/// Brings what is moving to its end, as nothing moves without an event loop.
+void settle(const QWidget &widget)
+{
+    const QList<QPropertyAnimation *> animations = widget.findChildren<QPropertyAnimation *>();
+    for (QPropertyAnimation *animation : animations) {
+        const bool isForward = animation->direction() == QAbstractAnimation::Forward;
+        animation->setCurrentTime(isForward ? animation->duration() : 0);
+    }
+}
+
+} // namespace
 
 PicturesWriter::PicturesWriter(const QString &directory)
     : m_directory(directory)
@@ -25,10 +40,13 @@ bool PicturesWriter::writePages() const
         LenConverter::m_rem = rem;
         for (const PageEntry &page : pageTable()) {
             Frame frame(page.name);
+            settle(frame);
             frame.resize(Frame::goodSize());
             // Heights are known once everything is polished and laid out, which painting sees to.
             frame.grab();
             frame.resize(frame.width(), frame.fullHeight());
+            // A list of items lays them out later on, and keeps a bar that it has no need of until then.
+            QCoreApplication::processEvents();
             if (!write(frame, QStringLiteral("%1-%2.png").arg(page.name).arg(rem)))
                 return false;
         }
@@ -41,6 +59,7 @@ bool PicturesWriter::writeSamples() const
     LenConverter::m_rem = 12;
     for (const Sample &sample : sampleTable()) {
         const std::unique_ptr<QWidget> widget(sample.make());
+        settle(*widget);
         widget->setAutoFillBackground(true);
         widget->setBackgroundRole(QPalette::Base);
         widget->adjustSize();

@@ -4,7 +4,9 @@
 
 #include <QGridLayout>
 
+#include <Tavik/LenConverter>
 #include <Tavik/TavikButton>
+#include <Tavik/TavikButtonGroup>
 #include <Tavik/TavikLabel>
 
 namespace {
@@ -19,6 +21,8 @@ struct Choice
 const Choice choices[] = {
     {10, "1366\u20131600"}, {12, "1920"}, {18, "2560"}, {24, "3200"}, {30, "3840"},
 };
+
+const QSizeF ButtonSize(6, 2.333);
 
 } // namespace
 
@@ -35,36 +39,31 @@ const QVector<int> &RemChoice::remValues()
 
 RemChoice::RemChoice(QWidget *parent)
     : QWidget(parent)
+    , m_group(new TavikButtonGroup(Horizontal, 1.167, ButtonSize))
 {
     auto *layout = new QGridLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->setHorizontalSpacing(LenConverter::iniRemToPx(6));
+    layout->setHorizontalSpacing(0);
     layout->setVerticalSpacing(LenConverter::iniRemToPx(2));
     layout->addWidget(Look::flush(new TavikLabel(tr("1 rem ="))), 0, 0);
     layout->addWidget(Look::flush(new TavikLabel(tr("Screen"), TavikLabel::Assist)), 1, 0);
-    for (const Choice &choice : choices) {
-        const QString screens = QString::fromUtf8(choice.screens);
-        const int column = layout->columnCount();
-        layout->addWidget(remButton(choice.rem, screens), 0, column);
-        layout->addWidget(Look::flush(new TavikLabel(screens, TavikLabel::Assist)), 1, column,
-                          Qt::AlignHCenter);
-    }
+    layout->setColumnMinimumWidth(0, LenConverter::remToPx(5));
+    for (const Choice &choice : choices)
+        addChoice(layout, choice.rem, QString::fromUtf8(choice.screens));
+    layout->addWidget(m_group, 0, 1, 1, layout->columnCount() - 1);
+    connect(m_group, &TavikButtonGroup::buttonClicked, this,
+            [this](int id) { Q_EMIT remChosen(remValues().at(id)); });
 }
 
-QWidget *RemChoice::remButton(int rem, const QString &screens)
+void RemChoice::addChoice(QGridLayout *layout, int rem, const QString &screens)
 {
-    auto *button = new TavikButton(tr("%1 px").arg(rem), TavikButton::Toggle);
-    button->setRemSize(5.667, 2.333);
-    button->setBorderRadius(LenConverter::iniRemToStrPx(4));
-    button->updateStyleSheet();
+    TavikButton *button = m_group->addTextButton(tr("%1 px").arg(rem));
     button->setToolTip(tr("One rem is %1 pixels on screens %2 pixels wide").arg(rem).arg(screens));
-    button->setAutoExclusive(true);
-    button->setChecked(rem == LenConverter::rem());
-    connect(button, &QPushButton::toggled, this, [this, rem](bool isChecked) {
-        if (isChecked)
-            Q_EMIT remChosen(rem);
-    });
-    if (button->isChecked())
+    if (rem == LenConverter::rem()) {
+        button->setChecked(true);
         setFocusProxy(button);
-    return button;
+    }
+    auto *label = Look::flush(new TavikLabel(screens, TavikLabel::Assist));
+    layout->addWidget(label, 1, layout->columnCount(), Qt::AlignHCenter);
+    layout->setColumnMinimumWidth(layout->columnCount() - 1, button->width());
 }

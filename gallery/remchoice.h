@@ -4,6 +4,9 @@
 #include <QVector>
 #include <QWidget>
 
+class QGridLayout;
+class TavikButtonGroup;
+
 /// The choice of the pixels per rem, with the screens that have them.
 class RemChoice : public QWidget
 {
@@ -21,7 +24,9 @@ Q_SIGNALS:
     void remChosen(int rem);
 
 private:
-    QWidget *remButton(int rem, const QString &screens);
+    void addChoice(QGridLayout *layout, int rem, const QString &screens);
+
+    TavikButtonGroup *m_group;
 };
 
 #endif

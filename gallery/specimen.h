@@ -9,12 +9,12 @@ class QWidget;
 namespace Specimen {
 
 /// Rest is a control as it comes, which answers to the pointer; the others are held.
-enum class State { Rest, Hover, Pressed, Checked, Disabled };
+enum class State { Rest, Hover, Pressed, Focus, Checked, ReadOnly, Disabled };
 
 /// The state's name, for people.
 QString stateName(State state);
 
-/// Puts a control that already has its size into a state and keeps it there.
+/// Puts a control into a state and keeps it there.
 void hold(QWidget *control, State state);
 
 } // namespace Specimen

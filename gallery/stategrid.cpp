@@ -2,6 +2,7 @@
 
 #include "look.h"
 
+#include <QEvent>
 #include <QGridLayout>
 
 #include <Tavik/LenConverter>
@@ -29,6 +30,15 @@ void StateGrid::addRow(const QString &name, const Maker &make)
     for (int column = 1; column <= m_states.size(); ++column) {
         QWidget *control = make();
         m_grid->addWidget(control, row, column, Qt::AlignLeft | Qt::AlignVCenter);
-        Specimen::hold(control, m_states.at(column - 1));
+        m_held.append({control, m_states.at(column - 1)});
     }
+}
+
+bool StateGrid::event(QEvent *event)
+{
+    if (event->type() == QEvent::Polish) {
+        for (const auto &[control, state] : qAsConst(m_held))
+            Specimen::hold(control, state);
+    }
+    return QWidget::event(event);
 }

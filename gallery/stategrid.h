@@ -5,6 +5,7 @@
 
 #include <functional>
 
+#include <QPair>
 #include <QVector>
 #include <QWidget>
 
@@ -23,8 +24,14 @@ public:
     /// Adds a row; `make` is called once a state, and gives a control that has its size.
     void addRow(const QString &name, const Maker &make);
 
+protected:
+    /// Puts the controls into their states once they stand in their window: a control that gets a new
+    /// parent is styled anew and may lose what it was held in.
+    bool event(QEvent *event) override;
+
 private:
     QVector<Specimen::State> m_states;
+    QVector<QPair<QWidget *, Specimen::State>> m_held;
     QGridLayout *m_grid;
 };
 

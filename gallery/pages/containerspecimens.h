@@ -1,0 +1,27 @@
+#ifndef GALLERY_CONTAINERSPECIMENS_H
+#define GALLERY_CONTAINERSPECIMENS_H
+
+#include <QCoreApplication>
+
+class QWidget;
+
+/// Specimens of TavikContainer, TavikExpandable and TavikScrollArea.
+class ContainerSpecimens
+{
+    Q_DECLARE_TR_FUNCTIONS(ContainerSpecimens)
+
+public:
+    static QWidget *column();
+    static QWidget *row();
+
+    /// A panel of settings, with what it reports.
+    static QWidget *expandable(bool isOpen);
+
+    /// A list that is too long for its area.
+    static QWidget *scrollArea();
+
+    /// The same in colours of an application's own.
+    static QWidget *colouredScrollArea();
+};
+
+#endif
