@@ -14,20 +14,6 @@
 
 #include <Tavik/LenConverter>
 
-namespace {
-
-/// Brings what is moving to its end, as nothing moves without an event loop.
-void settle(const QWidget &widget)
-{
-    const QList<QPropertyAnimation *> animations = widget.findChildren<QPropertyAnimation *>();
-    for (QPropertyAnimation *animation : animations) {
-        const bool isForward = animation->direction() == QAbstractAnimation::Forward;
-        animation->setCurrentTime(isForward ? animation->duration() : 0);
-    }
-}
-
-} // namespace
-
 PicturesWriter::PicturesWriter(const QString &directory)
     : m_directory(directory)
 {
@@ -69,6 +55,15 @@ bool PicturesWriter::writeSamples() const
     Frame frame(QStringLiteral("buttons"));
     frame.resize(Frame::goodSize());
     return write(frame, QStringLiteral("gallery.png"));
+}
+
+void PicturesWriter::settle(const QWidget &widget)
+{
+    const QList<QPropertyAnimation *> animations = widget.findChildren<QPropertyAnimation *>();
+    for (QPropertyAnimation *animation : animations) {
+        const bool isForward = animation->direction() == QAbstractAnimation::Forward;
+        animation->setCurrentTime(isForward ? animation->duration() : 0);
+    }
 }
 
 bool PicturesWriter::write(QWidget &widget, const QString &name) const

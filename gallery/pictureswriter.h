@@ -24,6 +24,9 @@ public:
     /// window as gallery.png. Returns whether all went well.
     bool writeSamples() const;
 
+    /// Brings what is moving in a widget to its end, as nothing moves without an event loop.
+    static void settle(const QWidget &widget);
+
 private:
     bool write(QWidget &widget, const QString &name) const;
 

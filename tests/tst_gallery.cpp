@@ -3,6 +3,7 @@
 #include <frame.h>
 #include <look.h>
 #include <pagetable.h>
+#include <pictureswriter.h>
 #include <remchoice.h>
 
 #include <Tavik/LenConverter>
@@ -91,6 +92,7 @@ void TestGallery::nothingIsClipped()
     Look::apply(*qApp);
     LenConverter::m_rem = rem;
     Frame frame(page);
+    PicturesWriter::settle(frame);
     frame.resize(Frame::goodSize());
     frame.grab();
     frame.resize(frame.width(), frame.fullHeight());
@@ -102,7 +104,8 @@ void TestGallery::nothingIsClipped()
         const bool isScrolled =
             widget->parentWidget()->inherits("QAbstractScrollArea") ||
             widget->parentWidget()->objectName() == QLatin1String("qt_scrollarea_viewport");
-        if (!widget->isVisibleTo(&frame) || isScrolled)
+        const bool isClosed = widget->parentWidget()->height() == 0; // what a closed panel holds
+        if (!widget->isVisibleTo(&frame) || isScrolled || isClosed)
             continue;
         const QString problem = fault(widget);
         QVERIFY2(problem.isEmpty(),

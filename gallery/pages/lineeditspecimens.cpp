@@ -4,7 +4,7 @@
 #include "report.h"
 #include "stategrid.h"
 
-#include <QLocale>
+#include <QDoubleValidator>
 
 #include <Tavik/TavikLineEdit>
 
@@ -14,7 +14,8 @@ TavikLineEdit *sized(TavikLineEdit *edit, double width = 12)
 {
     edit->setRemSize(width, 2.667);
     // The rewrite of decimals knows the point alone, whatever the desktop's language is.
-    edit->setLocale(QLocale::c());
+    if (auto *validator = edit->findChild<QDoubleValidator *>())
+        validator->setLocale(QLocale::c());
     return edit;
 }
 

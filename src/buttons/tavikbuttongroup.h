@@ -16,7 +16,9 @@ class TavikButton;
 /// A row or column of buttons that behaves as one control and reports clicks by id.
 ///
 /// Ids count 0, 1, 2 in order of adding, across all kinds of button. With no spacing, text buttons join
-/// into one segmented bar. \code auto *align = new TavikButtonGroup(Horizontal, this);
+/// into one segmented bar.
+/// \code
+/// auto *align = new TavikButtonGroup(Horizontal, this);
 /// align->addTextButton(tr("Left"));
 /// align->addTextButton(tr("Centre"));
 /// align->addTextButton(tr("Right"));

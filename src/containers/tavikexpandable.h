@@ -22,9 +22,9 @@ class TavikLabel;
 /// connect(effects, &TavikExpandable::animationFinished, this, &Panel::rememberWhatIsOpen);
 /// \endcode
 ///
-/// A press with any mouse button on the title row, or a click on its arrow, toggles the panel. Content
-/// keeps its size and is cut off while the area is lower than it. A new panel runs its animation once, to
-/// the state it is made in.
+/// A press with any mouse button on the title row, or a click on its arrow, toggles the panel. While the
+/// content area is too low, content with fixed sizes is cut off and other content is squeezed. A new panel
+/// runs its animation once, to the state it is made in.
 class TAVIK_EXPORT TavikExpandable : public QWidget
 {
     Q_OBJECT

@@ -16,8 +16,9 @@
 /// \endcode
 ///
 /// The wheel changes the current item, as in the toolkit. An item of the open list is 20 design pixels high
-/// whatever the font size is. A fixed size that is set before the first show is overruled by the least
-/// width and height that the look asks for.
+/// whatever the font size is. Whenever a combo box is polished (before its first show, and again under a new
+/// parent), the least width and height that its look asks for overrule a fixed size: set the size when the box
+/// stands where it belongs, after ensurePolished().
 class TAVIK_EXPORT TavikComboBox : public RemSized<QComboBox>
 {
     Q_OBJECT

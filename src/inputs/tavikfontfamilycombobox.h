@@ -7,8 +7,8 @@
 ///
 /// \code
 /// auto *family = new TavikFontFamilyComboBox(this);
-/// connect(family, &QComboBox::currentTextChanged, this, [=](const QString &name) { setFont(QFont(name));
-/// }); \endcode
+/// connect(family, &QComboBox::currentTextChanged, sample, &Sample::setFamily);
+/// \endcode
 ///
 /// Names complete in upper or lower case; a name that is not in the list adds no item.
 class TAVIK_EXPORT TavikFontFamilyComboBox : public TavikComboBox

@@ -15,7 +15,8 @@
 /// connect(copies, qOverload<int>(&QSpinBox::valueChanged), printer, &Printer::setCopyCount);
 /// \endcode
 ///
-/// The wheel ends at the spin box: neither its value changes nor does anything around it scroll.
+/// Without step buttons there is nothing to press, and the look of being pressed never shows. The wheel ends at
+/// the spin box: neither its value changes nor does anything around it scroll.
 class TAVIK_EXPORT TavikSpinbox : public RemSized<QSpinBox>
 {
     Q_OBJECT
