@@ -31,7 +31,9 @@ bool PicturesWriter::writePages() const
             // Heights are known once everything is polished and laid out, which painting sees to.
             frame.grab();
             frame.resize(frame.width(), frame.fullHeight());
-            // A list of items lays them out later on, and keeps a bar that it has no need of until then.
+            // A list lays its items out later on, and only then, and once painted, drops a needless bar.
+            QCoreApplication::processEvents();
+            frame.grab();
             QCoreApplication::processEvents();
             if (!write(frame, QStringLiteral("%1-%2.png").arg(page.name).arg(rem)))
                 return false;
