@@ -4,6 +4,7 @@
 #include <QString>
 
 #include <initializer_list>
+#include <utility>
 
 class QWidget;
 
@@ -21,9 +22,9 @@ struct Row
         , value(QLatin1String(constant))
     {
     }
-    Row(const char *text, const QString &field)
+    Row(const char *text, QString field)
         : fragment(text)
-        , value(field)
+        , value(std::move(field))
     {
     }
 
