@@ -1,0 +1,144 @@
+#ifndef TAVIK_TAVIKCOLORPOPUP_H
+#define TAVIK_TAVIKCOLORPOPUP_H
+
+#include <QColor>
+#include <QLine>
+#include <QVector>
+#include <QWidget>
+
+#include <Tavik/tavik_export.h>
+
+class PopupShadow;
+class QBoxLayout;
+class QVBoxLayout;
+class Screenshot;
+class TavikButton;
+class TavikColorPicker;
+class TavikColorSilder;
+class TavikColorWell;
+class TavikLineEdit;
+
+/// A colour chooser in a small window with an arrow that points to the control that asked for it.
+///
+/// It holds a saturation/value square, sliders for hue and alpha, fields for hexadecimal, RGB, alpha and CMY
+/// values, a palette, and a sampler that takes a colour from anywhere on the screen. The application makes one
+/// popup and connects it; one popup can serve any number of controls:
+/// \code
+/// auto *popup = new TavikColorPopup(this);
+/// connect(button, &TavikColorButton::showPopup, popup, &TavikColorPopup::showColorPopup);
+/// connect(popup, &TavikColorPopup::colorChanged, button, &TavikColorButton::setCurrentColor);
+/// \endcode
+///
+/// Open it by showColorPopup(): show() alone gives neither the outline nor the colour. It closes on a press
+/// outside.
+///
+/// While a hexadecimal value is typed, colorChanged() may carry an invalid colour. A hue is kept in whole degrees
+/// by its slider: what the square or a slider changes takes that hue.
+///
+/// The sampler shows a picture of the screen as it was when its button was clicked, the popup included. Left
+/// button or Alt take the colour beside the pointer, Escape leaves everything as it was. Where the platform
+/// gives no picture of the screen, as on Wayland, or the pointer stands outside it, there is no colour to take:
+/// left button and Alt then only end the sampling. On a screen with a scale factor the picture has more pixels
+/// than the window has coordinates, and the colour is the one of the pixel with the pointer's coordinates.
+class TAVIK_EXPORT TavikColorPopup : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// A popup with a colour. Its controls take the colour at the first setCurrentColor() or showColorPopup().
+    explicit TavikColorPopup(const QColor &color = Qt::white, QWidget *parent = nullptr);
+
+    /// A white popup.
+    explicit TavikColorPopup(QWidget *parent);
+
+    ~TavikColorPopup() override;
+
+    /// The colour, as it was last given or chosen.
+    QColor currentColor() const;
+
+public Q_SLOTS:
+    /// Sets the colour in all controls. Emits nothing.
+    void setCurrentColor(const QColor &currentColor);
+
+    /// Opens the popup with a colour at a global point, in pixels: below it, or above it where there is no room
+    /// below on the primary screen. A grey gets the hue 0, so that the square shows colours. Emits nothing.
+    void showColorPopup(const QPoint &pos, const QColor &color);
+
+Q_SIGNALS:
+    /// The user has changed the colour. Emitted for each step of a drag and each key.
+    void colorChanged(QColor color);
+
+    /// The sampler has delivered a colour, or the popup was hidden while a sampler was there.
+    void colorPopupHide();
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
+
+private Q_SLOTS:
+    void onHueChanged(int value);
+    void onAlphaChanged(int value);
+    void onSatValChanged();
+    void onHexEditChanged();
+    void onREditChanged();
+    void onGEditChanged();
+    void onBEditChanged();
+    void onAEditChanged();
+    void onCEditChanged();
+    void onMEditChanged();
+    void onYEditChanged();
+    void onColorWellSelected(const QColor &color);
+    void onAddColorWellRequested();
+    void onClickPickColor();
+    void onPickColorChanged(const QColor &color);
+
+private:
+    struct Field;
+
+    void buildWindow();
+    void buildColumn();
+    QBoxLayout *buildSliders();
+    QBoxLayout *buildFields(const QVector<Field> &fields);
+    void connectControls();
+    void addGap(double designPx);
+    void addCaption(const QString &text);
+
+    void updateCurrentColorFromSliders();
+    void updateSliders();
+    void updateHexEdit();
+    void updateRGBEdit();
+    void updateEditValues();
+    void followField();
+
+    void adjustPosition();
+    void initDrawElements(bool arrowUp);
+
+    QVBoxLayout *m_mainLayout = nullptr;
+    TavikColorPicker *m_picker = nullptr;
+    TavikButton *m_pickButton = nullptr;
+    TavikColorSilder *m_hueSlider = nullptr;
+    TavikColorSilder *m_alphaSlider = nullptr;
+    TavikLineEdit *m_hexEdit = nullptr;
+    TavikLineEdit *m_rEdit = nullptr;
+    TavikLineEdit *m_gEdit = nullptr;
+    TavikLineEdit *m_bEdit = nullptr;
+    TavikLineEdit *m_aEdit = nullptr;
+    TavikLineEdit *m_cEdit = nullptr;
+    TavikLineEdit *m_mEdit = nullptr;
+    TavikLineEdit *m_yEdit = nullptr;
+    TavikColorWell *m_colorWell = nullptr;
+    PopupShadow *m_shadow = nullptr;
+    QColor m_currentColor;
+    int m_arrowLeft = 160;
+    int m_arrowRight = 180;
+    int m_arrowTip = 170;
+    int m_arrowHeight = 14;
+    int m_shadowRadius = 5;
+    QPoint m_anchor;
+    QVector<QPoint> m_polygon;
+    QVector<QLine> m_lines;
+    bool m_arrowUp = true;
+    Screenshot *m_screenshot = nullptr;
+};
+
+#endif
