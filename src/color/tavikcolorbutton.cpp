@@ -1,0 +1,62 @@
+#include "tavikcolorbutton.h"
+
+#include "sheet_p.h"
+#include "swatch_p.h"
+
+TavikColorButton::TavikColorButton(const QColor &color, QWidget *parent)
+    : RemSized(parent)
+{
+    updateStyleSheet();
+    setCurrentColor(color);
+    connect(this, &QAbstractButton::clicked, this, &TavikColorButton::onColorButtonClicked);
+}
+
+TavikColorButton::TavikColorButton(QWidget *parent)
+    : TavikColorButton(Qt::white, parent)
+{
+}
+
+QColor TavikColorButton::currentColor() const
+{
+    return m_currentColor;
+}
+
+void TavikColorButton::setCurrentColor(const QColor &color)
+{
+    m_currentColor = color;
+    update();
+    Q_EMIT colorChanged(m_currentColor);
+}
+
+void TavikColorButton::updateStyleSheet()
+{
+    const Sheet::Table sheet = {
+        {"TavikColorButton {margin: 0;padding: 0;background-color: ", m_bgColor},
+        {";border: ", m_borderWidth},
+        {"px solid ", m_borderColor},
+        {";border-radius: ", m_borderRadius},
+        {"px;}TavikColorButton:hover{background-color: ", m_hoverBgColor},
+        {";}TavikColorButton:pressed{background-color: ", m_pressBgColor},
+        {";}TavikColorButton:disabled {background-color: ", "#e0e0e0"},
+        {";}"},
+    };
+    Sheet::set(this, sheet);
+}
+
+void TavikColorButton::paintEvent(QPaintEvent *event)
+{
+    QPushButton::paintEvent(event);
+    QPainter painter(this);
+    painter.setPen(QPen(QColor(0xd3d3d3), 1));
+    Swatch::paint(painter, swatchRect(), Swatch::texture(), m_currentColor);
+}
+
+void TavikColorButton::onColorButtonClicked()
+{
+    Q_EMIT showPopup(mapToGlobal(rect().center()), m_currentColor);
+}
+
+QRect TavikColorButton::swatchRect() const
+{
+    return {QPoint(m_paddingH, m_paddingV), QPoint(width() - 2 - m_paddingH, height() - 2 - m_paddingV)};
+}

@@ -1,0 +1,93 @@
+#include "tavikcolorwell.h"
+
+#include "lenconverter.h"
+#include "swatch_p.h"
+#include "tavikbutton.h"
+
+#include <QIcon>
+#include <QMouseEvent>
+
+TavikColorWell::TavikColorWell(const int &width, const int &height, QWidget *parent)
+    : QWidget(parent)
+{
+    setFixedSize(width, height);
+    initColors();
+    initRects();
+    buildAddButton();
+}
+
+TavikColorWell::TavikColorWell(QWidget *parent)
+    : TavikColorWell(LenConverter::iniRemToPx(186), LenConverter::iniRemToPx(43), parent)
+{
+}
+
+void TavikColorWell::initColors()
+{
+    // clang-format off
+    static constexpr QRgb start[] = {
+        0xb60e2e, 0xf3980f, 0xf7c016, 0x774c40, 0x59da4a, 0x357540, 0xbd18e7, 0x9c14ca,
+        0x3981f2, 0x79c1c3, 0xbad576, 0x030303, 0x3f4244, 0x919093, 0xffffff,
+    };
+    // clang-format on
+    for (const QRgb rgb : start)
+        m_colors.append(QColor(rgb));
+}
+
+void TavikColorWell::initRects()
+{
+    m_rects.clear();
+    for (int row = 0; row < m_rows; ++row) {
+        for (int column = 0; column < m_columns; ++column) {
+            const QPoint corner((m_cellSize.width() + m_spacing) * column + 1,
+                                (m_cellSize.height() + m_spacing) * row + 1);
+            m_rects.append(QRect(corner, m_cellSize));
+        }
+    }
+}
+
+void TavikColorWell::addColor(const QColor &color)
+{
+    if (m_colors.size() == m_colorCount)
+        m_colors.removeLast();
+    m_colors.prepend(color);
+    update();
+}
+
+void TavikColorWell::mousePressEvent(QMouseEvent *event)
+{
+    QWidget::mousePressEvent(event);
+    for (int i = 0; i < m_colorCount; ++i) {
+        if (m_rects.at(i).contains(event->pos())) {
+            const QColor color = m_colors.at(i); // a receiver may change the palette
+            Q_EMIT colorSelected(color);
+            return;
+        }
+    }
+}
+
+void TavikColorWell::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setPen(QPen(QColor(0xd3d3d3), 1.0, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    const QBrush texture = Swatch::texture();
+    for (int i = 0; i < m_colorCount; ++i)
+        Swatch::paint(painter, m_rects.at(i), texture, m_colors.at(i));
+}
+
+void TavikColorWell::buildAddButton()
+{
+    const QIcon plus(QStringLiteral(":/Color/images/plus.svg"));
+    m_addButton = new TavikButton(plus, QSizeF(-1, -1), TavikButton::Outline, this);
+    m_addButton->setFixedSize(m_cellSize);
+    m_addButton->setGeometry(m_rects.last());
+    m_addButton->setBorderRadius(QStringLiteral("0"));
+    m_addButton->setBgColor(QStringLiteral("#ffffff"));
+    m_addButton->setHoverBgColor(QStringLiteral("#f7f7f7"));
+    m_addButton->setPressBgColor(QStringLiteral("#e8e8e8"));
+    const QString border = QStringLiteral("#d3d3d3");
+    m_addButton->setBorderColor(border);
+    m_addButton->setHoverBorderColor(border);
+    m_addButton->setPressBorderColor(border);
+    m_addButton->updateStyleSheet();
+    connect(m_addButton, &QAbstractButton::clicked, this, &TavikColorWell::addColorRequested);
+}
