@@ -29,7 +29,8 @@ void PopupShadow::draw(QPainter *painter)
 {
     const QRectF bounds = painter->worldTransform().mapRect(boundingRectFor(sourceBoundingRect()));
     QPoint pos = bounds.toAlignedRect().topLeft();
-    if (m_shadow.isNull() || !qFuzzyCompare(m_shadow.devicePixelRatio(), painter->device()->devicePixelRatioF())) {
+    if (m_shadow.isNull() ||
+        !qFuzzyCompare(m_shadow.devicePixelRatio(), painter->device()->devicePixelRatioF())) {
         const QPixmap source = sourcePixmap(Qt::DeviceCoordinates, &pos, PadToEffectiveBoundingRect);
         m_shadow = makeShadow(source, pos);
     }

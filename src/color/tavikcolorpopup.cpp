@@ -183,7 +183,8 @@ void TavikColorPopup::connectControls()
     connect(m_mEdit, &QLineEdit::textChanged, this, &TavikColorPopup::onMEditChanged);
     connect(m_yEdit, &QLineEdit::textChanged, this, &TavikColorPopup::onYEditChanged);
     connect(m_colorWell, &TavikColorWell::colorSelected, this, &TavikColorPopup::onColorWellSelected);
-    connect(m_colorWell, &TavikColorWell::addColorRequested, this, &TavikColorPopup::onAddColorWellRequested);
+    connect(m_colorWell, &TavikColorWell::addColorRequested, this,
+            &TavikColorPopup::onAddColorWellRequested);
     connect(m_pickButton, &QAbstractButton::clicked, this, &TavikColorPopup::onClickPickColor);
 }
 
@@ -234,8 +235,9 @@ void TavikColorPopup::updateHexEdit()
 
 void TavikColorPopup::updateRGBEdit()
 {
-    const QSignalBlocker blockers[] = {QSignalBlocker(m_rEdit), QSignalBlocker(m_gEdit), QSignalBlocker(m_bEdit),
-                                       QSignalBlocker(m_cEdit), QSignalBlocker(m_mEdit), QSignalBlocker(m_yEdit)};
+    const QSignalBlocker blockers[] = {QSignalBlocker(m_rEdit), QSignalBlocker(m_gEdit),
+                                       QSignalBlocker(m_bEdit), QSignalBlocker(m_cEdit),
+                                       QSignalBlocker(m_mEdit), QSignalBlocker(m_yEdit)};
     m_rEdit->setText(QString::number(m_currentColor.red()));
     m_gEdit->setText(QString::number(m_currentColor.green()));
     m_bEdit->setText(QString::number(m_currentColor.blue()));
@@ -421,8 +423,9 @@ void TavikColorPopup::initDrawElements(bool arrowUp)
     } else {
         const int bottom = innerHeight - m;
         m_mainLayout->setContentsMargins(m, m, m, a + m);
-        m_polygon = {{m, m},          {innerRight, m},            {innerRight, bottom}, {right, bottom},
-                     {tip, a + bottom}, {left, bottom}, {m, bottom}};
+        m_polygon = {{m, m},          {innerRight, m},   {innerRight, bottom},
+                     {right, bottom}, {tip, a + bottom}, {left, bottom},
+                     {m, bottom}};
     }
     const int lineY = m + separatorOffset + (arrowUp ? a : 0);
     m_lines = {QLine(m, lineY, width() - 1 - m, lineY)};

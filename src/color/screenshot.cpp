@@ -1,0 +1,112 @@
+#include "screenshot_p.h"
+
+#include "paintmouserect_p.h"
+
+#include <QApplication>
+#include <QDesktopWidget>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScreen>
+
+Screenshot::Screenshot(QWidget *parent)
+    : QWidget(parent)
+{
+    initCursor();
+    backgroundPixmap();
+    createPaintMouseRect(nullptr);
+    // A window gets its full size only later, or never without a window manager; the frame is placed now.
+    setGeometry(QGuiApplication::primaryScreen()->geometry());
+    showFullScreen();
+    setAttribute(Qt::WA_MouseTracking, true);
+    const QPoint pointer = QCursor::pos();
+    Q_EMIT cursorPosChange(pointer.x(), pointer.y());
+    show();
+}
+
+void Screenshot::mousePressEvent(QMouseEvent *event)
+{
+    if (event->button() != Qt::LeftButton)
+        return;
+    emitColor();
+    m_paintMouseRect->setAttribute(Qt::WA_MouseTracking, false);
+    close();
+}
+
+void Screenshot::mouseMoveEvent(QMouseEvent *event)
+{
+    Q_EMIT cursorPosChange(event->x(), event->y());
+    QWidget::mouseMoveEvent(event);
+}
+
+void Screenshot::keyPressEvent(QKeyEvent *event)
+{
+    switch (event->key()) {
+    case Qt::Key_Escape:
+        m_paintMouseRect->setAttribute(Qt::WA_MouseTracking, false);
+        close();
+        break;
+    case Qt::Key_Alt:
+        emitColor();
+        close();
+        break;
+    default:
+        event->ignore();
+    }
+}
+
+void Screenshot::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.drawPixmap(QRectF(QPointF(), m_desktopRect.size()), *m_backgroundPixmap, QRectF());
+}
+
+void Screenshot::initCursor()
+{
+    setCursor(QCursor(Qt::ArrowCursor));
+}
+
+/// The whole virtual desktop, over all screens.
+const QRect &Screenshot::desktopRect()
+{
+    if (!m_desktopRect.isValid()) {
+        const QDesktopWidget *desktop = QApplication::desktop();
+        m_desktopRect = QRect(desktop->pos(), desktop->size());
+    }
+    return m_desktopRect;
+}
+
+std::shared_ptr<QPixmap> Screenshot::grabbedPixmap()
+{
+    if (!m_grabbedPixmap) {
+        QScreen *screen = QGuiApplication::primaryScreen();
+        const QRect &area = desktopRect();
+        m_grabbedPixmap = std::make_shared<QPixmap>(
+            screen->grabWindow(0, area.x(), area.y(), area.width(), area.height()));
+    }
+    return m_grabbedPixmap;
+}
+
+std::shared_ptr<QPixmap> Screenshot::backgroundPixmap()
+{
+    if (!m_backgroundPixmap)
+        m_backgroundPixmap = std::make_shared<QPixmap>(*grabbedPixmap());
+    return m_backgroundPixmap;
+}
+
+void Screenshot::createPaintMouseRect(std::shared_ptr<QPixmap> pixmap)
+{
+    if (!pixmap)
+        pixmap = m_grabbedPixmap;
+    m_paintMouseRect = std::make_shared<PaintMouseRect>(std::move(pixmap), this);
+    connect(this, SIGNAL(cursorPosChange(int, int)), m_paintMouseRect.get(),
+            SLOT(onPostionChange(int, int)));
+    m_paintMouseRect->show();
+    m_paintMouseRect->raise();
+}
+
+void Screenshot::emitColor()
+{
+    const QColor color = m_paintMouseRect->m_color;
+    if (color.isValid())
+        Q_EMIT screenColor(color);
+}
