@@ -73,11 +73,11 @@ void TavikColorPopup::buildWindow()
     setAttribute(Qt::WA_TranslucentBackground, true);
     setFixedSize(LenConverter::iniRemToPxSz(208 + 2 * m_shadowRadius, 388 + 2 * m_shadowRadius));
 
-    m_shadow = new PopupShadow(this);
-    m_shadow->setOffset(QPointF(0, 0));
-    m_shadow->setColor(QColor(Qt::black));
-    m_shadow->setBlurRadius(m_shadowRadius);
-    setGraphicsEffect(m_shadow);
+    auto *shadow = new PopupShadow(this);
+    shadow->setOffset(QPointF(0, 0));
+    shadow->setColor(QColor(Qt::black));
+    shadow->setBlurRadius(m_shadowRadius);
+    setGraphicsEffect(shadow);
 
     m_mainLayout = new QVBoxLayout;
     m_mainLayout->setSpacing(0);
@@ -429,7 +429,9 @@ void TavikColorPopup::initDrawElements(bool arrowUp)
     }
     const int lineY = m + separatorOffset + (arrowUp ? a : 0);
     m_lines = {QLine(m, lineY, width() - 1 - m, lineY)};
-    m_shadow->outlineChanged();
+    if (auto *shadow =
+            qobject_cast<PopupShadow *>(graphicsEffect())) // the application may have set another
+        shadow->outlineChanged();
 }
 
 void TavikColorPopup::paintEvent(QPaintEvent *)

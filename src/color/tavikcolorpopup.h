@@ -8,7 +8,6 @@
 
 #include <Tavik/tavik_export.h>
 
-class PopupShadow;
 class QBoxLayout;
 class QVBoxLayout;
 class Screenshot;
@@ -127,7 +126,6 @@ private:
     TavikLineEdit *m_mEdit = nullptr;
     TavikLineEdit *m_yEdit = nullptr;
     TavikColorWell *m_colorWell = nullptr;
-    PopupShadow *m_shadow = nullptr;
     QColor m_currentColor;
     int m_arrowLeft = 160;
     int m_arrowRight = 180;
