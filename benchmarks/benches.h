@@ -7,4 +7,7 @@ void registerControls();
 /// A step of an expandable's animation, and the filling of an image list.
 void registerContainers();
 
+/// A step of a drag in the colour popup, against the toolkit's colour dialog and against the plain way.
+void registerPopup();
+
 #endif
