@@ -117,6 +117,11 @@ void TestClasses::madeFromAParent_data()
     addClass<TavikExpandable, QWidget>("TavikExpandable", {3, 1});
     addClass<TavikScrollArea, QScrollArea>("TavikScrollArea");
     addClass<TavikImageList, QListWidget>("TavikImageList");
+    addClass<TavikColorButton, QPushButton>("TavikColorButton", {3, 0});
+    addClass<TavikColorPicker, QWidget>("TavikColorPicker", {1, 0});
+    addClass<TavikColorSilder, QSlider>("TavikColorSilder");
+    addClass<TavikColorWell, QWidget>("TavikColorWell", {2, 0});
+    addClass<TavikGradientBar, QWidget>("TavikGradientBar", {5, 0});
 }
 
 void TestClasses::madeFromAParent()
@@ -184,6 +189,7 @@ void TestClasses::sheets_data()
         [] { return TavikComboBox().view()->verticalScrollBar()->styleSheet(); });
     add("scrollbar-without-right", [] { return TavikScrollArea().verticalScrollBar()->styleSheet(); });
     add("scrollbar-all-sides", [] { return TavikImageList().verticalScrollBar()->styleSheet(); });
+    add("colorbutton", sheetOf<TavikColorButton>(QColor(1, 2, 3, 4)));
     add("", sheetOf<TavikDial>());
     add("", sheetOf<TavikSeperateLine>(100));
 }

@@ -1,0 +1,362 @@
+#include "colorsupport.h"
+
+#include <Tavik/LenConverter>
+#include <Tavik/TavikGradientBar>
+
+#include <climits>
+
+/// The gradient bar, 200 by 24 pixels unless told otherwise: start square 1,1 to 22,22, bar 34,3 to 159,20,
+/// end square 170,0 to 191,21, and handles of 11 by 22.
+class TestColorGradient : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void sizes();
+    void starts();
+    void colours_data();
+    void colours();
+    void coloursSet();
+    void presses_data();
+    void presses();
+    void drags_data();
+    void drags();
+    void handlesMoveWhenPainted();
+    void repaints();
+    void looks();
+    void looksThroughAlpha();
+    void wildNumbers_data();
+    void wildNumbers();
+};
+
+namespace {
+
+/// How often a bar said what.
+struct Emissions
+{
+    explicit Emissions(TavikGradientBar *bar)
+        : startColor(bar, &TavikGradientBar::selectedStartColor)
+        , endColor(bar, &TavikGradientBar::selectedEndColor)
+        , request(bar, &TavikGradientBar::colorPopupRequest)
+        , startValue(bar, &TavikGradientBar::startValueChanged)
+        , endValue(bar, &TavikGradientBar::endValueChanged)
+    {
+    }
+
+    QSignalSpy startColor;
+    QSignalSpy endColor;
+    QSignalSpy request;
+    QSignalSpy startValue;
+    QSignalSpy endValue;
+};
+
+QColor argument(const QSignalSpy &spy)
+{
+    return spy.isEmpty() ? QColor() : spy.last().last().value<QColor>();
+}
+
+} // namespace
+
+void TestColorGradient::sizes()
+{
+    LenConverter::m_rem = 10;
+    QCOMPARE(TavikGradientBar(200, 24).size(), QSize(200, 24));
+    QCOMPARE(TavikGradientBar(20.55, 2.4).size(), QSize(206, 24));
+    QCOMPARE(TavikGradientBar(20.5, 2).size(), QSize(205, 20));
+    QCOMPARE(TavikGradientBar(20, 2.5).size(), QSize(200, 25));
+    QCOMPARE(TavikGradientBar().size(), QSize(167, 20));
+}
+
+void TestColorGradient::starts()
+{
+    const TavikGradientBar bar(200, 24);
+    QCOMPARE(bar.startValue(), 50);
+    QCOMPARE(bar.endValue(), 100);
+    QCOMPARE(bar.startColor(), QColor(Qt::white));
+    QCOMPARE(bar.endColor(), QColor(Qt::black));
+    QCOMPARE(bar.selectedSide(), TavikGradientBar::StartSide);
+}
+
+void TestColorGradient::colours_data()
+{
+    QTest::addColumn<QColor>("start");
+    QTest::addColumn<QColor>("end");
+    QTest::addColumn<int>("value");
+    QTest::addColumn<QColor>("colour");
+    const QColor from(10, 200, 0, 255);
+    const QColor to(20, 100, 255, 0);
+    QTest::newRow("start") << from << to << 0 << from;
+    QTest::newRow("end") << from << to << 100 << to;
+    QTest::newRow("cut") << from << to << 33 << QColor(13, 167, 84, 170);
+    QTest::newRow("half of white") << QColor(Qt::white) << QColor(Qt::black) << 50 << QColor(127, 127, 127);
+    QTest::newRow("still in reach") << QColor(100, 100, 100) << QColor(110, 90, 100) << 300
+                                    << QColor(130, 70, 100);
+    QTest::newRow("below") << QColor(100, 100, 100) << QColor(110, 90, 100) << -100 << QColor(90, 110, 100);
+}
+
+void TestColorGradient::colours()
+{
+    QFETCH(QColor, start);
+    QFETCH(QColor, end);
+    QFETCH(int, value);
+    TavikGradientBar bar(200, 24);
+    bar.setStartColor(start);
+    bar.setEndColor(end);
+    QTEST(bar.colorAt(value), "colour");
+}
+
+void TestColorGradient::coloursSet()
+{
+    TavikGradientBar bar(200, 24);
+    Emissions emissions(&bar);
+    Support::PaintCounter paints(&bar);
+    bar.setStartColor(Qt::red);
+    QCOMPARE(paints.take(), 1);
+    QCOMPARE(argument(emissions.startColor), QColor(127, 0, 0));
+    bar.setEndColor(Qt::blue);
+    QCOMPARE(paints.take(), 1);
+    QCOMPARE(argument(emissions.endColor), QColor(Qt::blue));
+    bar.setEndColor(Qt::blue);
+    QCOMPARE(emissions.startColor.size(), 1);
+    QCOMPARE(emissions.endColor.size(), 2);
+    paints.take();
+    bar.refreashGradient();
+    QCOMPARE(paints.take(), 1);
+    bar.setStartValue(500);
+    bar.setEndValue(-3);
+    bar.setSelectedSide(TavikGradientBar::EndSide);
+    QCOMPARE(paints.take(), 0);
+    QCOMPARE(bar.startValue(), 500);
+    QCOMPARE(bar.endValue(), -3);
+    QCOMPARE(bar.selectedSide(), TavikGradientBar::EndSide);
+    QCOMPARE(emissions.startColor.size() + emissions.endColor.size(), 3);
+}
+
+void TestColorGradient::presses_data()
+{
+    QTest::addColumn<QPoint>("point");
+    QTest::addColumn<int>("side"); // that a popup was asked for, or none
+    const int start = TavikGradientBar::StartSide;
+    const int end = TavikGradientBar::EndSide;
+    const int none = -1;
+    QTest::newRow("start square, first pixel") << QPoint(1, 1) << start;
+    QTest::newRow("start square, last pixel") << QPoint(22, 22) << start;
+    QTest::newRow("before the start square") << QPoint(0, 10) << none;
+    QTest::newRow("behind the start square") << QPoint(23, 10) << none;
+    QTest::newRow("end square, first pixel") << QPoint(170, 0) << end;
+    QTest::newRow("end square, last pixel") << QPoint(191, 21) << end;
+    QTest::newRow("below the end square") << QPoint(180, 22) << none;
+    QTest::newRow("bar") << QPoint(60, 10) << none;
+    QTest::newRow("handle") << QPoint(98, 10) << none;
+}
+
+void TestColorGradient::presses()
+{
+    QFETCH(QPoint, point);
+    QFETCH(int, side);
+    QWidget window;
+    TavikGradientBar bar(200, 24, &window);
+    bar.move(40, 50);
+    bar.setEndColor(QColor(1, 2, 3, 4));
+    bar.setSelectedSide(side == TavikGradientBar::StartSide ? TavikGradientBar::EndSide
+                                                            : TavikGradientBar::StartSide);
+    const auto before = bar.selectedSide();
+    Support::picture(&bar);
+    Emissions emissions(&bar);
+    auto seen = before;
+    connect(&bar, &TavikGradientBar::colorPopupRequest, this, [&] { seen = bar.selectedSide(); });
+    for (const Qt::MouseButton button : {Qt::LeftButton, Qt::MiddleButton}) {
+        Support::press(&bar, point, button);
+        Support::release(&bar, point, button);
+    }
+    if (side < 0) {
+        QCOMPARE(emissions.request.size(), 0);
+        QCOMPARE(bar.selectedSide(), before);
+        return;
+    }
+    QCOMPARE(emissions.request.size(), 2);
+    const bool isStart = side == TavikGradientBar::StartSide;
+    QCOMPARE(int(seen), side);
+    QCOMPARE(emissions.request.last().first().toPoint(),
+             bar.mapToGlobal(isStart ? QPoint(11, 22) : QPoint(180, 21)));
+    QCOMPARE(argument(emissions.request), isStart ? bar.startColor() : bar.endColor());
+}
+
+void TestColorGradient::drags_data()
+{
+    QTest::addColumn<int>("pressed"); // at a start value of 50 and an end value of 100
+    QTest::addColumn<QVector<int>>("moves");
+    QTest::addColumn<int>("start");
+    QTest::addColumn<int>("end");
+    QTest::addColumn<int>("accepted");
+    const int startHandle = 98;
+    const int endHandle = 161;
+    QTest::newRow("start") << startHandle << QVector<int>{96} << 49 << 100 << 1;
+    QTest::newRow("same value again") << startHandle << QVector<int>{96, 96} << 49 << 100 << 2;
+    QTest::newRow("just left of the bar") << startHandle << QVector<int>{33} << 0 << 100 << 1;
+    QTest::newRow("left of the bar") << startHandle << QVector<int>{60, 32} << 20 << 100 << 1;
+    QTest::newRow("start to the end") << startHandle << QVector<int>{159, 160, 161} << 99 << 100 << 1;
+    QTest::newRow("end past the bar") << endHandle << QVector<int>{150, 162, 190} << 50 << 92 << 1;
+    QTest::newRow("end to 100") << endHandle << QVector<int>{150, 160} << 50 << 100 << 2;
+    QTest::newRow("end just right of it") << endHandle << QVector<int>{150, 161} << 50 << 100 << 2;
+    QTest::newRow("end to the start") << endHandle << QVector<int>{99, 98, 97} << 50 << 51 << 1;
+    QTest::newRow("no handle") << 60 << QVector<int>{70, 80} << 50 << 100 << 0;
+    QTest::newRow("wild") << startHandle << QVector<int>{INT_MAX, INT_MIN} << 50 << 100 << 0;
+    QTest::newRow("wild end") << endHandle << QVector<int>{INT_MAX, INT_MIN} << 50 << 100 << 0;
+}
+
+void TestColorGradient::drags()
+{
+    QFETCH(int, pressed);
+    QFETCH(QVector<int>, moves);
+    QFETCH(int, accepted);
+    TavikGradientBar bar(200, 24);
+    Support::picture(&bar);
+    Emissions emissions(&bar);
+    Support::press(&bar, {pressed, 12}, Qt::RightButton);
+    for (const int x : qAsConst(moves))
+        Support::drag(&bar, {x, 500}, Qt::RightButton);
+    QTEST(bar.startValue(), "start");
+    QTEST(bar.endValue(), "end");
+    QCOMPARE(emissions.startColor.size() + emissions.endColor.size(), accepted);
+    if (!emissions.startColor.isEmpty())
+        QCOMPARE(argument(emissions.startColor), bar.colorAt(bar.startValue()));
+    if (!emissions.endColor.isEmpty())
+        QCOMPARE(argument(emissions.endColor), bar.colorAt(bar.endValue()));
+    Support::release(&bar, {0, 0});
+    Support::drag(&bar, {100, 12});
+    QCOMPARE(emissions.startColor.size() + emissions.endColor.size(), accepted);
+    QCOMPARE(emissions.request.size() + emissions.startValue.size() + emissions.endValue.size(), 0);
+}
+
+void TestColorGradient::handlesMoveWhenPainted()
+{
+    TavikGradientBar bar(200, 24);
+    Emissions emissions(&bar);
+    Support::press(&bar, {5, 5}); // both handles lie over the start square until the first paint
+    Support::drag(&bar, {60, 5});
+    QCOMPARE(emissions.request.size(), 0);
+    QCOMPARE(bar.startValue(), 20);
+    Support::release(&bar, {60, 5});
+
+    bar.setStartValue(50);
+    Support::picture(&bar);
+    bar.setStartValue(10);
+    Support::press(&bar, {103, 12}); // where it was painted
+    Support::drag(&bar, {60, 12});
+    QCOMPARE(bar.startValue(), 20);
+    Support::release(&bar, {60, 12});
+
+    bar.setEndValue(21); // the two overlap: the lower one is dragged
+    Support::picture(&bar);
+    Support::press(&bar, {62, 12});
+    Support::drag(&bar, {40, 12});
+    QCOMPARE(bar.startValue(), 4);
+    QCOMPARE(bar.endValue(), 21);
+
+    // The order of the arithmetic shows where a product misses a whole number by a hair.
+    TavikGradientBar hundred(174, 24);
+    Support::picture(&hundred);
+    Support::press(&hundred, {85, 12});
+    Support::drag(&hundred, {34 + 29, 12});
+    QCOMPARE(hundred.startValue(), 28);
+}
+
+void TestColorGradient::repaints()
+{
+    TavikGradientBar bar(200, 24);
+    Support::PaintCounter paints(&bar);
+    Support::press(&bar, {98, 12});
+    QCOMPARE(paints.take(), 0);
+    Support::drag(&bar, {190, 12});
+    QCOMPARE(paints.take(), 0);
+    Support::drag(&bar, {60, 12});
+    QCOMPARE(paints.take(), 1);
+    Support::release(&bar, {60, 12});
+    QCOMPARE(paints.take(), 1);
+    Support::drag(&bar, {60, 12});
+    QCOMPARE(paints.take(), 1);
+    Support::press(&bar, {5, 5});
+    QCOMPARE(paints.take(), 0);
+}
+
+void TestColorGradient::looks()
+{
+    TavikGradientBar bar(200, 24);
+    bar.setStartColor(QColor(200, 0, 0));
+    bar.setEndColor(QColor(0, 0, 200));
+    Support::picture(&bar);
+    Support::press(&bar, {98, 12});
+    const QImage picture = Support::picture(&bar);
+    const auto name = [&](int x, int y) { return picture.pixelColor(x, y).name(); };
+    const QString line = QStringLiteral("#d3d3d3");
+    const QString white = QStringLiteral("#ffffff");
+    QCOMPARE(name(1, 1), line); // start square, and the square in it
+    QCOMPARE(name(2, 2), white);
+    QCOMPARE(name(3, 3), line);
+    QCOMPARE(name(4, 4), QStringLiteral("#c80000"));
+    QCOMPARE(name(20, 20), QStringLiteral("#c80000"));
+    QCOMPARE(name(23, 23), line);
+    QCOMPARE(name(170, 0), line); // end square
+    QCOMPARE(name(171, 1), white);
+    QCOMPARE(name(180, 10), QStringLiteral("#0000c8"));
+    QCOMPARE(name(192, 22), line);
+    QCOMPARE(name(34, 3), line); // bar, with the gradient of the whole widget
+    QCOMPARE(name(150, 21), line);
+    for (const int x : {40, 80, 120, 150})
+        QVERIFY(qAbs(picture.pixelColor(x, 10).red() - (200 - x)) <= 2);
+    QCOMPARE(name(93, 1), line); // start handle, pressed
+    QCOMPARE(name(94, 2), QStringLiteral("#e8e8e8"));
+    QCOMPARE(name(103, 22), QStringLiteral("#e8e8e8"));
+    QCOMPARE(name(104, 23), line);
+    QCOMPARE(name(156, 1), line); // end handle
+    QCOMPARE(name(157, 2), white);
+    QCOMPARE(name(167, 23), line);
+}
+
+void TestColorGradient::looksThroughAlpha()
+{
+    TavikGradientBar bar(200, 24);
+    bar.setStartColor(Qt::transparent);
+    bar.setEndColor(Qt::transparent);
+    const QImage picture = Support::picture(&bar);
+    for (const int left : {5, 60, 174}) {
+        QSet<QRgb> checkerboard;
+        for (int x = left; x < left + 14; ++x)
+            checkerboard.insert(picture.pixel(x, 10));
+        QCOMPARE(checkerboard.size(), 2);
+    }
+}
+
+void TestColorGradient::wildNumbers_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<int>("value");
+    for (const QSize &size : {QSize(200, 24), QSize(0, 0), QSize(-7, INT_MIN), QSize(200, 1), QSize(200, 2),
+                              QSize(200, 6), QSize(30, 24), QSize(1, 200), QSize(72, 24)}) {
+        for (const int value : {INT_MIN, -1, 0, 101, INT_MAX})
+            QTest::addRow("%dx%d, %d", size.width(), size.height(), value) << size << value;
+    }
+}
+
+void TestColorGradient::wildNumbers()
+{
+    QFETCH(QSize, size);
+    QFETCH(int, value);
+    allowWarning(QStringLiteral("^QWidget::setM(in|ax)imumSize: .*Negative sizes"));
+    allowWarning(QStringLiteral("^QColor::setRgb: RGB parameters out of range"));
+    TavikGradientBar bar(size.width(), size.height());
+    bar.setStartValue(value);
+    bar.setEndValue(value);
+    QImage canvas(210, 30, QImage::Format_RGB32);
+    for (int x = -1; x < 40; ++x) {
+        Support::press(&bar, {x, 1});
+        for (const int to : {INT_MIN, 0, x, INT_MAX})
+            Support::drag(&bar, {to, 1});
+        bar.render(&canvas);
+    }
+    QCOMPARE(bar.colorAt(value).isValid(), value == 0);
+}
+
+TAVIK_TEST_MAIN(TestColorGradient)
+#include "tst_colorgradient.moc"
