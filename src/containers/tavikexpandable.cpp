@@ -66,6 +66,13 @@ TavikExpandable::TavikExpandable(QWidget *parent)
 {
 }
 
+TavikExpandable::~TavikExpandable()
+{
+    // A running animation tells that it has finished while it is deleted with the children, when there is no
+    // panel any more to pass that on.
+    m_animation->disconnect(this);
+}
+
 void TavikExpandable::buildTitleBar(const QString &title)
 {
     m_titleLabel = new TavikLabel(title, TavikLabel::Default);

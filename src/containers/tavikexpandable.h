@@ -45,6 +45,8 @@ public:
     /// An open panel without title and content height, as Qt Designer makes it.
     explicit TavikExpandable(QWidget *parent = nullptr);
 
+    ~TavikExpandable() override;
+
     /// Sets the title.
     void setTitle(const QString &title);
 
