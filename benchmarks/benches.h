@@ -7,4 +7,7 @@ void registerControls();
 /// A step of an expandable's animation, and the filling of an image list.
 void registerContainers();
 
+/// The colour square, built and repainted, and the alpha slider, against their plain ways.
+void registerColor();
+
 #endif

@@ -28,6 +28,7 @@ int main(int argc, char **argv)
 
     registerControls();
     registerContainers();
+    registerColor();
     ComparisonReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
     benchmark::ClearRegisteredBenchmarks(); // their widgets must not outlive the application
