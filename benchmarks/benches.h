@@ -10,4 +10,7 @@ void registerContainers();
 /// A step of a drag in the colour popup, against the toolkit's colour dialog and against the plain way.
 void registerPopup();
 
+/// The colour square, built and repainted, and the alpha slider, against their plain ways.
+void registerColor();
+
 #endif

@@ -29,6 +29,7 @@ int main(int argc, char **argv)
     registerControls();
     registerContainers();
     registerPopup();
+    registerColor();
     ComparisonReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
     benchmark::ClearRegisteredBenchmarks(); // their widgets must not outlive the application

@@ -6,6 +6,14 @@
 // conversion, all else is double, and 16 bits come to 8 by a rounded division. What depends on the column
 // alone is worked out once, and the loop that is left is plain enough for the compiler to vectorise.
 
+// Where the processor can work on twice as many pixels at a time, let it: chosen when the library is
+// loaded.
+#if defined(__x86_64__) && defined(__GLIBC__)
+#define TAVIK_WIDER_CLONE __attribute__((target_clones("avx2", "default")))
+#else
+#define TAVIK_WIDER_CLONE
+#endif
+
 namespace {
 
 constexpr double fullScale = 65535;
@@ -54,8 +62,8 @@ struct Hue
     double smallest = 0.0;
 };
 
-void fillRow(quint32 *pixels, int width, double value, const double *middle, const double *smallest,
-             const Shifts &shifts)
+TAVIK_WIDER_CLONE void fillRow(quint32 *pixels, int width, double value, const double *middle,
+                               const double *smallest, const Shifts &shifts)
 {
     const quint32 largest = 0xff000000 | byte(value) << shifts.largest;
     const int middleShift = shifts.middle;
@@ -66,7 +74,7 @@ void fillRow(quint32 *pixels, int width, double value, const double *middle, con
     }
 }
 
-void fill(QImage &image, const Hue &hue)
+void fillRows(QImage &image, const Hue &hue)
 {
     const int width = image.width();
     const int height = image.height();
@@ -86,14 +94,10 @@ void fill(QImage &image, const Hue &hue)
 
 } // namespace
 
-QImage HsvSquare::image(double hue, const QSize &size)
+void HsvSquare::fill(QImage &image, double hue)
 {
-    QImage image(size, QImage::Format_RGB32);
-    if (image.isNull())
-        return image;
     if (hue == -1.0 || (hue >= 0.0 && hue <= 1.0))
-        fill(image, Hue(hue));
+        fillRows(image, Hue(hue));
     else
         image.fill(Qt::black);
-    return image;
 }

@@ -46,10 +46,11 @@ void TavikColorPicker::setCurrentColor(const QColor &color)
 
 void TavikColorPicker::updateColors()
 {
-    const QSize size(m_width, m_height);
-    if (isEmpty() || (m_image.size() == size && m_imageHue == m_hue))
+    if (isEmpty() || (!m_image.isNull() && m_imageHue == m_hue))
         return;
-    m_image = HsvSquare::image(m_hue, size);
+    if (m_image.isNull()) // of a size that stays
+        m_image = QImage(m_width, m_height, QImage::Format_RGB32);
+    HsvSquare::fill(m_image, m_hue);
     m_imageHue = m_hue;
 }
 
