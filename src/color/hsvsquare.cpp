@@ -25,7 +25,8 @@ double component(double share)
 
 inline quint32 byte(double share)
 {
-    const int rounded = int(share * fullScale + 0.5) + 128;
+    const int rounded =
+        int(share * fullScale + 0.5) + 128; // NOLINT(bugprone-incorrect-roundings): as the toolkit
     return quint32(rounded - (rounded >> 8)) >> 8;
 }
 

@@ -57,7 +57,7 @@ QColor PaintMouseRect::readColor() const
 {
     if (!m_pixmap->rect().contains(m_x, m_y))
         return {};
-    return QColor(m_pixmap->toImage().pixel(m_x, m_y));
+    return m_pixmap->toImage().pixel(m_x, m_y);
 }
 
 void PaintMouseRect::paintSwatch(QPainter &painter) const

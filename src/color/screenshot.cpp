@@ -19,7 +19,7 @@ Screenshot::Screenshot(QWidget *parent)
     showFullScreen();
     setAttribute(Qt::WA_MouseTracking, true);
     const QPoint pointer = QCursor::pos();
-    Q_EMIT cursorPosChange(pointer.x(), pointer.y());
+    Q_EMIT cursorPosChange(pointer.x(), pointer.y()); // to the frame; clazy:exclude=incorrect-emit
     show();
 }
 
@@ -98,8 +98,7 @@ void Screenshot::createPaintMouseRect(std::shared_ptr<QPixmap> pixmap)
     if (!pixmap)
         pixmap = m_grabbedPixmap;
     m_paintMouseRect = std::make_shared<PaintMouseRect>(std::move(pixmap), this);
-    connect(this, SIGNAL(cursorPosChange(int, int)), m_paintMouseRect.get(),
-            SLOT(onPostionChange(int, int)));
+    connect(this, SIGNAL(cursorPosChange(int,int)), m_paintMouseRect.get(), SLOT(onPostionChange(int,int)));
     m_paintMouseRect->show();
     m_paintMouseRect->raise();
 }

@@ -228,7 +228,7 @@ void TavikGradientBar::paintSquare(QPainter &painter, const QRect &square, const
     Swatch::paint(painter, innerSquare(square), texture, color);
 }
 
-void TavikGradientBar::paintHandle(QPainter &painter, const QRect &handle, bool isPressed) const
+void TavikGradientBar::paintHandle(QPainter &painter, const QRect &handle, bool isPressed)
 {
     painter.setBrush(QColor(isPressed ? 0xe8e8e8 : 0xffffff));
     painter.drawRect(handle);

@@ -132,7 +132,7 @@ private:
     void dragEnd(int value);
     void paintSquare(QPainter &painter, const QRect &square, const QBrush &texture,
                      const QColor &color) const;
-    void paintHandle(QPainter &painter, const QRect &handle, bool isPressed) const;
+    static void paintHandle(QPainter &painter, const QRect &handle, bool isPressed);
 
     QRect m_startSquare;
     QRect m_endSquare;
