@@ -7,4 +7,10 @@ void registerControls();
 /// A step of an expandable's animation, and the filling of an image list.
 void registerContainers();
 
+/// A move of the sampler's pointer, against a repaint of its whole window.
+void registerSampler();
+
+/// Prints both times of it, in milliseconds; makes its own application, on the caller's platform.
+int printSamplerTimes(int argc, char **argv);
+
 #endif
