@@ -13,4 +13,10 @@ void registerPopup();
 /// The colour square, built and repainted, and the alpha slider, against their plain ways.
 void registerColor();
 
+/// A move of the sampler's pointer, against a repaint of its whole window.
+void registerSampler();
+
+/// Prints both times of it, in milliseconds; makes its own application, on the caller's platform.
+int printSamplerTimes(int argc, char **argv);
+
 #endif

@@ -5,10 +5,13 @@
 
 #include <QApplication>
 
+#include <cstring>
 #include <vector>
 
 int main(int argc, char **argv)
 {
+    if (argc == 2 && std::strcmp(argv[1], "--sampler-times") == 0)
+        return printSamplerTimes(argc, argv);
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
     QApplication::setStyle(QStringLiteral("Fusion"));
@@ -30,6 +33,7 @@ int main(int argc, char **argv)
     registerContainers();
     registerPopup();
     registerColor();
+    registerSampler();
     ComparisonReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
     benchmark::ClearRegisteredBenchmarks(); // their widgets must not outlive the application

@@ -1,0 +1,113 @@
+#include "benches.h"
+#include "comparison.h"
+#include "screenshot_p.h"
+
+#include <QApplication>
+#include <QMouseEvent>
+#include <QProcess>
+
+#include <algorithm>
+#include <cstdio>
+#include <ctime>
+
+namespace {
+
+constexpr int rounds = 201;
+
+/// The time that this thread was at work, as in the other comparisons.
+double cpuMilliseconds()
+{
+    timespec time{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return double(time.tv_sec) * 1e3 + double(time.tv_nsec) / 1e6;
+}
+
+double timeOf(const std::function<void()> &work)
+{
+    const double start = cpuMilliseconds();
+    work();
+    return cpuMilliseconds() - start;
+}
+
+double median(std::vector<double> values)
+{
+    const auto middle = values.begin() + std::ptrdiff_t(values.size() / 2);
+    std::nth_element(values.begin(), middle, values.end());
+    return *middle;
+}
+
+struct Times
+{
+    double move = 0;
+    double repaint = 0;
+};
+
+/// What printSamplerTimes() prints in a process of its own, on an X server of its own: the headless
+/// platform has no screen to take a picture of.
+Times measureOnScreen()
+{
+    QProcess server;
+    server.start(QStringLiteral("Xvfb"),
+                 {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
+                  QStringLiteral("0"), QStringLiteral("1920x1080x24"), QStringLiteral("-nolisten"),
+                  QStringLiteral("tcp")});
+    if (!server.waitForReadyRead())
+        qFatal("Xvfb is needed (Debian package xvfb)");
+
+    QProcess probe;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("DISPLAY"),
+                       QLatin1Char(':') + QString::fromLatin1(server.readLine()).trimmed());
+    environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
+    probe.setProcessEnvironment(environment);
+    probe.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--sampler-times")});
+    probe.waitForFinished();
+    const QList<QByteArray> printed = probe.readAllStandardOutput().simplified().split(' ');
+    server.terminate();
+    server.waitForFinished();
+    if (printed.size() != 2)
+        qFatal("The sampler could not be measured");
+    return {printed.first().toDouble(), printed.last().toDouble()};
+}
+
+/// Both times come from the same run, whichever is asked for first.
+const Times &timesOnScreen()
+{
+    static const Times times = measureOnScreen();
+    return times;
+}
+
+} // namespace
+
+int printSamplerTimes(int argc, char **argv)
+{
+    const QApplication app(argc, argv);
+    Screenshot window(nullptr);
+    while (!window.testAttribute(Qt::WA_Mapped))
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    QCoreApplication::processEvents();
+
+    std::vector<double> moves;
+    std::vector<double> repaints;
+    for (int i = 0; i < rounds; ++i) {
+        moves.push_back(timeOf([&] {
+            QMouseEvent move(QEvent::MouseMove, QPointF(200 + i * 5, 100 + i * 3), Qt::NoButton,
+                             Qt::NoButton, Qt::NoModifier);
+            QApplication::sendEvent(&window, &move);
+            QCoreApplication::processEvents();
+        }));
+        repaints.push_back(timeOf([&] {
+            window.update();
+            QCoreApplication::processEvents();
+        }));
+    }
+    std::printf("%f %f\n", median(moves), median(repaints));
+    return 0;
+}
+
+void registerSampler()
+{
+    compareFigures(
+        "a sampler's move, against a full repaint", 0.2, [] { return timesOnScreen().move; },
+        [] { return timesOnScreen().repaint; });
+}
