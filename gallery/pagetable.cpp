@@ -2,6 +2,7 @@
 
 #include "pages/buttonspage.h"
 #include "pages/choicespage.h"
+#include "pages/colourspage.h"
 #include "pages/containerspage.h"
 #include "pages/inputspage.h"
 #include "pages/labelspage.h"
@@ -34,6 +35,7 @@ const QVector<PageEntry> &pageTable()
         entry<InputsPage>("inputs", QT_TRANSLATE_NOOP("PageTable", "Inputs")),
         entry<ChoicesPage>("choices", QT_TRANSLATE_NOOP("PageTable", "Choices")),
         entry<ContainersPage>("containers", QT_TRANSLATE_NOOP("PageTable", "Containers")),
+        entry<ColoursPage>("colours", QT_TRANSLATE_NOOP("PageTable", "Colours")),
         entry<PicturesPage>("pictures", QT_TRANSLATE_NOOP("PageTable", "Pictures")),
     };
     return table;

@@ -2,11 +2,17 @@
 
 #include "look.h"
 #include "ownpictures.h"
+#include "pages/colourspecimens.h"
 
 #include <QCoreApplication>
 #include <QVBoxLayout>
 
 #include <Tavik/Tavik>
+#include <Tavik/TavikColorButton>
+#include <Tavik/TavikColorPicker>
+#include <Tavik/TavikColorSilder>
+#include <Tavik/TavikColorWell>
+#include <Tavik/TavikGradientBar>
 
 namespace {
 
@@ -181,6 +187,25 @@ QWidget *imageList()
     return list;
 }
 
+QWidget *colorButtons()
+{
+    QWidget *row = Look::row({});
+    for (const QColor &color :
+         {QColor(0x08, 0xa2, 0x74), QColor(0x10, 0x8e, 0xe9), QColor(0xf3, 0x98, 0x0f, 0x80)}) {
+        auto *button = new TavikColorButton(color, row);
+        button->setRemSize(5, 2.333);
+        row->layout()->addWidget(button);
+    }
+    return row;
+}
+
+/// A control at the size that it comes with.
+template <class Control>
+QWidget *small()
+{
+    return Look::row({new Control});
+}
+
 } // namespace
 
 const QVector<Sample> &sampleTable()
@@ -203,6 +228,12 @@ const QVector<Sample> &sampleTable()
         {QStringLiteral("TavikExpandable"), expandable},
         {QStringLiteral("TavikScrollArea"), scrollArea},
         {QStringLiteral("TavikImageList"), imageList},
+        {QStringLiteral("TavikColorButton"), colorButtons},
+        {QStringLiteral("TavikColorPopup"), ColourSpecimens::popup},
+        {QStringLiteral("TavikColorPicker"), small<TavikColorPicker>},
+        {QStringLiteral("TavikColorSilder"), small<TavikColorSilder>},
+        {QStringLiteral("TavikColorWell"), small<TavikColorWell>},
+        {QStringLiteral("TavikGradientBar"), small<TavikGradientBar>},
     };
     return table;
 }
