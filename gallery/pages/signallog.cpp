@@ -18,7 +18,7 @@ SignalLog::SignalLog(QWidget *parent)
     : QWidget(parent)
     , m_text(new CodeLabel(QString()))
 {
-    m_text->setFixedHeight(m_text->fontMetrics().lineSpacing() * maxLines);
+    m_text->setFixedHeight(m_text->fontMetrics().lineSpacing() * (maxLines + 1));
     m_text->setFixedWidth(LenConverter::remToPx(40));
     m_text->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     auto *clear = new TavikButton(tr("Clear"), TavikButton::Link);
