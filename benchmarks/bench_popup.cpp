@@ -80,7 +80,7 @@ void compareWithPlainWay(int rem, double bound)
     compare(
         "40 drag steps at rem " + std::to_string(rem) + ", against the plain way", bound,
         [ours, drag = drag(ours->findChild<TavikColorPicker *>())] { return drag(); },
-        [plain, plainDrag] { return plainDrag(); }, 9);
+        [plain, plainDrag] { return plainDrag(); });
 }
 
 void compareWithDialog()

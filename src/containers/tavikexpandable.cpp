@@ -147,9 +147,9 @@ void TavikExpandable::setRemExpandHeight(double rem)
 
 void TavikExpandable::updateExpandedHeight(double rem)
 {
+    m_remExpandHeight = rem;
     if (m_expanded)
         setRemExpandHeight(rem);
-    m_remExpandHeight = rem;
     initAnimationStates();
 }
 
