@@ -69,6 +69,7 @@ QColor TavikColorPopup::currentColor() const
 
 void TavikColorPopup::buildWindow()
 {
+    setAccessibleName(tr("Color Picker"));
     setWindowFlags(Qt::Popup | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint);
     setAttribute(Qt::WA_TranslucentBackground, true);
     setFixedSize(LenConverter::iniRemToPxSz(208 + 2 * m_shadowRadius, 388 + 2 * m_shadowRadius));
@@ -121,6 +122,7 @@ QBoxLayout *TavikColorPopup::buildSliders()
 {
     m_pickButton = new TavikButton(QIcon(QStringLiteral(":/Color/images/color_picker.svg")), QSizeF(-1, -1),
                                    TavikButton::Outline);
+    m_pickButton->setAccessibleName(tr("Pick a color from the screen"));
     m_pickButton->setFixedSize(LenConverter::iniRemToPxSz(24, 24));
     m_pickButton->setBgColor(QStringLiteral("#ffffff"));
     m_pickButton->setHoverBgColor(QStringLiteral("#f7f7f7"));
@@ -160,6 +162,7 @@ QBoxLayout *TavikColorPopup::buildFields(const QVector<Field> &fields)
         this->*field.edit = edit;
 
         auto *caption = new TavikLabel(field.caption, TavikLabel::Assist);
+        caption->setBuddy(edit);
         auto *column = new QVBoxLayout;
         column->addWidget(edit);
         column->addWidget(caption);

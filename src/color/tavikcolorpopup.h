@@ -92,6 +92,8 @@ private Q_SLOTS:
     void onPickColorChanged(const QColor &color);
 
 private:
+    friend class PopupKeys;
+
     struct Field;
 
     void buildWindow();

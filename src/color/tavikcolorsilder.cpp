@@ -32,9 +32,11 @@ TavikColorSilder::TavikColorSilder(const int &width, const int &height, Type typ
 {
     setFixedSize(width, height);
     if (type == Hue) {
+        setAccessibleName(tr("Hue"));
         setRange(0, 360);
         setColors(hueColors());
     } else if (type == Alpha) {
+        setAccessibleName(tr("Alpha"));
         setRange(0, 255);
         setColors(alphaColors());
         m_textureBrush = Swatch::texture();

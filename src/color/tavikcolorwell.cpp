@@ -11,6 +11,7 @@ TavikColorWell::TavikColorWell(const int &width, const int &height, QWidget *par
     : QWidget(parent)
 {
     setFixedSize(width, height);
+    setAccessibleName(tr("Palette"));
     initColors();
     initRects();
     buildAddButton();
@@ -78,6 +79,7 @@ void TavikColorWell::buildAddButton()
 {
     const QIcon plus(QStringLiteral(":/Color/images/plus.svg"));
     m_addButton = new TavikButton(plus, QSizeF(-1, -1), TavikButton::Outline, this);
+    m_addButton->setAccessibleName(tr("Add the current color"));
     m_addButton->setFixedSize(m_cellSize);
     m_addButton->setGeometry(m_rects.last());
     m_addButton->setBorderRadius(QStringLiteral("0"));

@@ -55,6 +55,8 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    friend class PaletteParts;
+
     void buildAddButton();
 
     QVector<QColor> m_colors;

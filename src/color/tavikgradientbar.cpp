@@ -22,6 +22,7 @@ TavikGradientBar::TavikGradientBar(const int &width, const int &height, QWidget 
     : QWidget(parent)
 {
     setFixedSize(width, height);
+    setAccessibleName(tr("Gradient"));
     const int w = QWidget::width();
     const int h = QWidget::height();
     const int half = (h - 2) / 2;

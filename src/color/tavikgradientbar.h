@@ -124,6 +124,8 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    friend class GradientParts;
+
     QRect innerSquare(const QRect &square) const;
     QPoint handleCenter(int value) const;
     int valueAt(int x) const;

@@ -78,6 +78,7 @@ void TavikExpandable::buildTitleBar(const QString &title)
     m_titleLabel = new TavikLabel(title, TavikLabel::Default);
     m_titleLabel->setRemHeight(titleRemHeight);
     m_expandButton = new TavikButton(arrow(true), QSizeF(1.0, 1.0), TavikButton::Link);
+    m_expandButton->setAccessibleName(tr("Open or close"));
     m_expandButton->setRemSize(titleRemHeight, titleRemHeight);
 
     m_titleBar = new TavikContainer(Horizontal, QStringLiteral("#ececec"), QStringLiteral("1"),

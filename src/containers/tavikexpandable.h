@@ -103,6 +103,8 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
+    friend class PanelParts;
+
     void buildTitleBar(const QString &title);
     void buildContent();
     void toggle();

@@ -1,0 +1,41 @@
+// Makes the library's controls known to screen readers, as long as the library is loaded.
+
+#include "accessiblecolorbutton_p.h"
+#include "accessiblepalette_p.h"
+#include "accessiblepanel_p.h"
+#include "accessiblesquare_p.h"
+#include "tavikcolorbutton.h"
+#include "tavikcolorpicker.h"
+#include "tavikcolorpopup.h"
+#include "tavikcolorwell.h"
+#include "tavikexpandable.h"
+#include "tavikgradientbar.h"
+
+namespace {
+
+/// The toolkit asks for each class of an object, beginning with the most derived one.
+QAccessibleInterface *makeInterface(const QString &className, QObject *object)
+{
+    const auto is = [&](const QMetaObject &meta) { return className == QLatin1String(meta.className()); };
+    if (is(TavikColorPicker::staticMetaObject))
+        return new AccessibleSquare(static_cast<TavikColorPicker *>(object));
+    if (is(TavikColorWell::staticMetaObject))
+        return new AccessiblePalette(static_cast<TavikColorWell *>(object));
+    if (is(TavikGradientBar::staticMetaObject))
+        return new AccessibleParts(static_cast<TavikGradientBar *>(object), QAccessible::Grouping);
+    if (is(TavikExpandable::staticMetaObject))
+        return new AccessiblePanel(static_cast<TavikExpandable *>(object));
+    if (is(TavikColorButton::staticMetaObject))
+        return new AccessibleColorButton(static_cast<TavikColorButton *>(object));
+    if (is(TavikColorPopup::staticMetaObject))
+        return new QAccessibleWidget(static_cast<TavikColorPopup *>(object), QAccessible::Dialog);
+    return nullptr;
+}
+
+const struct Installation
+{
+    Installation() { QAccessible::installFactory(makeInterface); }
+    ~Installation() { QAccessible::removeFactory(makeInterface); }
+} installation;
+
+} // namespace

@@ -1,0 +1,49 @@
+#include "focusmark_p.h"
+
+#include "controlkeys_p.h"
+#include "keyboardfilter_p.h"
+
+#include <QAbstractSpinBox>
+#include <QApplication>
+#include <QComboBox>
+#include <QLineEdit>
+
+namespace {
+
+/// They show a cursor, or a border of their own.
+bool showsFocus(const QWidget *widget)
+{
+    return qobject_cast<const QLineEdit *>(widget) || qobject_cast<const QAbstractSpinBox *>(widget) ||
+           qobject_cast<const QComboBox *>(widget);
+}
+
+QWidget *marked(QWidget *focused)
+{
+    const auto *keys = focused->findChild<ControlKeys *>(QString(), Qt::FindDirectChildrenOnly);
+    return keys ? keys->marked() : focused;
+}
+
+} // namespace
+
+void FocusMark::install()
+{
+    if (!qApp->findChild<FocusMark *>(QString(), Qt::FindDirectChildrenOnly))
+        new FocusMark(qApp);
+}
+
+FocusMark::FocusMark(QObject *parent)
+    : QObject(parent)
+{
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *now) { follow(now); });
+}
+
+void FocusMark::follow(QWidget *focused)
+{
+    // Made anew for each: a frame asks the widget that it is around, which may go before it.
+    delete m_frame;
+    if (!focused || showsFocus(focused) || !KeyboardFilter::covers(focused))
+        return;
+    QWidget *around = marked(focused);
+    m_frame = new QFocusFrame(around);
+    m_frame->setWidget(around);
+}

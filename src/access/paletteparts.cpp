@@ -1,0 +1,51 @@
+#include "paletteparts_p.h"
+
+#include "colorname_p.h"
+#include "tavikbutton.h"
+#include "tavikcolorwell.h"
+
+PaletteParts::PaletteParts(TavikColorWell *well)
+    : m_well(well)
+{
+}
+
+int PaletteParts::count() const
+{
+    return m_well->m_rects.size();
+}
+
+int PaletteParts::columns() const
+{
+    return m_well->m_columns;
+}
+
+QRect PaletteParts::rect(int part) const
+{
+    return m_well->m_rects.at(part);
+}
+
+QString PaletteParts::name(int part) const
+{
+    return isButton(part) ? m_well->m_addButton->accessibleName()
+                          : ColorName::of(m_well->m_colors.at(part));
+}
+
+QWidget *PaletteParts::widget(int part) const
+{
+    return isButton(part) ? m_well->m_addButton : nullptr;
+}
+
+void PaletteParts::press(int part)
+{
+    if (isButton(part)) {
+        m_well->m_addButton->click();
+        return;
+    }
+    const QColor color = m_well->m_colors.at(part); // a receiver may change the palette
+    Q_EMIT m_well->colorSelected(color);
+}
+
+bool PaletteParts::isButton(int part) const
+{
+    return part == m_well->m_colorCount;
+}

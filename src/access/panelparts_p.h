@@ -1,0 +1,19 @@
+#ifndef TAVIK_PANELPARTS_P_H
+#define TAVIK_PANELPARTS_P_H
+
+#include "tavikbutton.h"
+#include "tavikcontainer.h"
+#include "tavikexpandable.h"
+#include "taviklabel.h"
+
+/// What an expandable panel has no getter for.
+class PanelParts
+{
+public:
+    static bool isExpanded(const TavikExpandable *panel) { return panel->m_expanded; }
+    static QString title(const TavikExpandable *panel) { return panel->m_titleLabel->text(); }
+    static QWidget *titleBar(const TavikExpandable *panel) { return panel->m_titleBar; }
+    static TavikButton *arrow(const TavikExpandable *panel) { return panel->m_expandButton; }
+};
+
+#endif

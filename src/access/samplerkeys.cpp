@@ -1,0 +1,81 @@
+#include "samplerkeys_p.h"
+
+#include "paintmouserect_p.h"
+#include "screenshot_p.h"
+
+#include <QCoreApplication>
+#include <QCursor>
+#include <QKeyEvent>
+
+namespace {
+
+constexpr int farStep = 10; // pixels
+
+} // namespace
+
+SamplerKeys::SamplerKeys(Screenshot *sampler)
+    : QObject(sampler)
+    , m_pos(QCursor::pos())
+{
+    sampler->installEventFilter(this);
+    sampler->activateWindow();
+}
+
+bool SamplerKeys::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched != sampler())
+        return false;
+    if (event->type() == QEvent::MouseMove)
+        m_pos = static_cast<QMouseEvent *>(event)->pos();
+    return event->type() == QEvent::KeyPress && press(*static_cast<QKeyEvent *>(event));
+}
+
+Screenshot *SamplerKeys::sampler() const
+{
+    return static_cast<Screenshot *>(parent());
+}
+
+bool SamplerKeys::press(const QKeyEvent &key)
+{
+    const bool isFar = key.modifiers() & Qt::ShiftModifier;
+    switch (key.key()) {
+    case Qt::Key_Left:
+        return moveBy(-1, 0, isFar);
+    case Qt::Key_Right:
+        return moveBy(1, 0, isFar);
+    case Qt::Key_Up:
+        return moveBy(0, -1, isFar);
+    case Qt::Key_Down:
+        return moveBy(0, 1, isFar);
+    case Qt::Key_PageUp:
+        return moveBy(0, -1, true);
+    case Qt::Key_PageDown:
+        return moveBy(0, 1, true);
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Space:
+        return pick();
+    default:
+        return false;
+    }
+}
+
+bool SamplerKeys::moveBy(int right, int down, bool isFar)
+{
+    const QPoint wanted = m_pos + QPoint(right, down) * (isFar ? farStep : 1);
+    m_pos = {qBound(0, wanted.x(), sampler()->width() - 1), qBound(0, wanted.y(), sampler()->height() - 1)};
+    QCursor::setPos(sampler()->mapToGlobal(m_pos));
+    // Not every platform lets an application move the pointer.
+    Q_EMIT sampler()->cursorPosChange(m_pos.x(), m_pos.y());
+    // The colour is the one painted last: the next key may be the one that picks it.
+    sampler()->findChild<PaintMouseRect *>()->repaint();
+    return true;
+}
+
+/// As the sampler's own key does it.
+bool SamplerKeys::pick()
+{
+    QKeyEvent alt(QEvent::KeyPress, Qt::Key_Alt, Qt::AltModifier);
+    QCoreApplication::sendEvent(sampler(), &alt);
+    return true;
+}

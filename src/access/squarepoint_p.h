@@ -1,0 +1,28 @@
+#ifndef TAVIK_SQUAREPOINT_P_H
+#define TAVIK_SQUAREPOINT_P_H
+
+#include "tavikcolorpicker.h"
+
+#include <QColor>
+#include <QPoint>
+#include <QSize>
+
+/// Where saturation and value are in the saturation/value square, in pixels.
+namespace SquarePoint {
+
+/// The right and the lower edge belong to the square too: that is where 100 % and 0 % are.
+inline QSize extent(const TavikColorPicker *square)
+{
+    return {qMax(0, square->width() - 2), qMax(0, square->height() - 2)};
+}
+
+inline QPoint of(const TavikColorPicker *square)
+{
+    const QColor color = square->currentColor();
+    const QSize size = extent(square);
+    return {qRound(color.saturationF() * size.width()), qRound((1.0 - color.valueF()) * size.height())};
+}
+
+} // namespace SquarePoint
+
+#endif

@@ -1,0 +1,37 @@
+#include "tavikselfcheck.h"
+
+#include "lenconverter.h"
+
+#include <QGuiApplication>
+#include <QImage>
+#include <QImageReader>
+#include <QPixmap>
+#include <QScreen>
+
+namespace {
+
+bool canGrab(QScreen *screen)
+{
+    const QPoint corner = screen->geometry().topLeft();
+    return !screen->grabWindow(0, corner.x(), corner.y(), 1, 1).isNull();
+}
+
+} // namespace
+
+QStringList TavikSelfCheck::problems()
+{
+    QStringList found;
+    if (!QImageReader::supportedImageFormats().contains("svg"))
+        found << tr("The SVG image format is missing: check marks, arrows and icons are not drawn. "
+                    "Install the toolkit's SVG plugin.");
+    if (LenConverter::rem() == 0)
+        found << tr("LenConverter::initRem() was not called: every length is 0 pixels.");
+    if (QImage(QStringLiteral(":/Color/images/alpha_texture.png")).isNull())
+        found << tr("The library's resources cannot be read: its pictures are not drawn.");
+    QScreen *screen = QGuiApplication::primaryScreen();
+    if (!screen)
+        found << tr("There is no primary screen: lengths cannot be chosen, and popups cannot be placed.");
+    else if (!canGrab(screen))
+        found << tr("The platform gives no picture of the screen: the screen sampler finds no colors.");
+    return found;
+}

@@ -1,0 +1,26 @@
+#ifndef TAVIK_TITLEKEYS_P_H
+#define TAVIK_TITLEKEYS_P_H
+
+#include "controlkeys_p.h"
+
+class TavikExpandable;
+
+/// Lets Space and Return on the title of an expandable panel open and close it. The arrow beside the title
+/// then needs no focus of its own.
+class TitleKeys : public ControlKeys
+{
+    Q_OBJECT
+
+public:
+    explicit TitleKeys(TavikExpandable *panel);
+
+    QWidget *marked() const override;
+
+protected:
+    bool press(const QKeyEvent &key) override;
+
+private:
+    TavikExpandable *panel() const;
+};
+
+#endif
