@@ -8,7 +8,6 @@
 AccessibleParts::AccessibleParts(QWidget *control, QAccessible::Role role)
     : QAccessibleWidget(control, role)
     , m_parts(ControlParts::of(control))
-    , m_ids(m_parts->count(), 0)
 {
     m_parts->follow(&m_context, [this](int part) {
         QAccessibleValueChangeEvent event(child(part), m_parts->value(part));
@@ -46,6 +45,8 @@ QAccessibleInterface *AccessibleParts::child(int index) const
         return nullptr;
     if (QWidget *own = m_parts->widget(index))
         return QAccessible::queryAccessibleInterface(own);
+    if (m_ids.size() <= index)
+        m_ids.resize(index + 1);
     QAccessible::Id &id = m_ids[index];
     if (!id)
         id = QAccessible::registerAccessibleInterface(makePart(index));

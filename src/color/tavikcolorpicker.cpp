@@ -12,9 +12,9 @@ TavikColorPicker::TavikColorPicker(const int &width, const int &height, QWidget 
     : QWidget(parent)
 {
     setFixedSize(width, height);
-    setAccessibleName(tr("Saturation and value"));
     m_width = QWidget::width() - 2;
     m_height = QWidget::height() - 2;
+    setAccessibleName(tr("Saturation and value"));
 }
 
 TavikColorPicker::TavikColorPicker(QWidget *parent)

@@ -11,10 +11,10 @@ TavikColorWell::TavikColorWell(const int &width, const int &height, QWidget *par
     : QWidget(parent)
 {
     setFixedSize(width, height);
-    setAccessibleName(tr("Palette"));
     initColors();
     initRects();
     buildAddButton();
+    setAccessibleName(tr("Palette"));
 }
 
 TavikColorWell::TavikColorWell(QWidget *parent)

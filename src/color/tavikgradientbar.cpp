@@ -22,7 +22,6 @@ TavikGradientBar::TavikGradientBar(const int &width, const int &height, QWidget 
     : QWidget(parent)
 {
     setFixedSize(width, height);
-    setAccessibleName(tr("Gradient"));
     const int w = QWidget::width();
     const int h = QWidget::height();
     const int half = (h - 2) / 2;
@@ -32,6 +31,7 @@ TavikGradientBar::TavikGradientBar(const int &width, const int &height, QWidget 
     m_startHandle = QRect(0, 0, half, h - 2);
     m_endHandle = m_startHandle;
     refreashGradient();
+    setAccessibleName(tr("Gradient"));
 }
 
 TavikGradientBar::TavikGradientBar(const double &remWidth, const double &remHeight, QWidget *parent)

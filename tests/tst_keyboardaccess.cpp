@@ -1,0 +1,324 @@
+#include "support.h"
+
+#include <Tavik/LenConverter>
+#include <Tavik/Tavik>
+
+#include <QFocusFrame>
+#include <QSignalSpy>
+
+#include <memory>
+
+/// The keys that keyboard access adds, the mark around what has the focus, and that there is none of it
+/// without a call.
+class TestKeyboardAccess : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void square_data();
+    void square();
+    void squareReachesEachPixel();
+    void palette_data();
+    void palette();
+    void gradientHandles_data();
+    void gradientHandles();
+    void gradientParts();
+    void panel();
+    void tabOrderOfThePopup();
+    void mark();
+    void coversLaterWidgets();
+    void offByDefault();
+    void controlsGoWhileFocused();
+};
+
+namespace {
+
+/// A window with keyboard access that holds one control.
+template <class Control>
+struct Stage
+{
+    template <class... Arguments>
+    explicit Stage(Arguments... arguments)
+        : control(new Control(arguments..., &window))
+    {
+        window.resize(400, 300);
+        control->move(20, 20);
+        TavikKeyboardAccess::install(&window);
+        window.show();
+        QApplication::setActiveWindow(&window);
+        control->setFocus(Qt::TabFocusReason);
+    }
+
+    QWidget window;
+    Control *control;
+};
+
+using Keys = QVector<int>; // with modifiers
+
+void type(const Keys &keys)
+{
+    for (const int key : keys) {
+        const int modifiers = key & Qt::KeyboardModifierMask;
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key(key & ~modifiers),
+                        Qt::KeyboardModifiers(modifiers));
+    }
+}
+
+QRect marked(const QWidget &window)
+{
+    const auto *frame = window.findChild<QFocusFrame *>();
+    if (!frame || !frame->isVisible())
+        return {};
+    const QWidget *around = frame->widget();
+    return {around->mapTo(&window, QPoint()), around->size()};
+}
+
+int percent(double fraction)
+{
+    return qRound(fraction * 100);
+}
+
+} // namespace
+
+void TestKeyboardAccess::square_data()
+{
+    QTest::addColumn<Keys>("keys");
+    QTest::addColumn<int>("saturation");
+    QTest::addColumn<int>("value");
+    QTest::newRow("right") << Keys{Qt::Key_Right, Qt::Key_Right} << 42 << 80;
+    QTest::newRow("left") << Keys{Qt::Key_Left} << 39 << 80;
+    QTest::newRow("up") << Keys{Qt::Key_Up} << 40 << 81;
+    QTest::newRow("down") << Keys{Qt::Key_Down} << 40 << 79;
+    QTest::newRow("page up") << Keys{Qt::Key_PageUp} << 40 << 90;
+    QTest::newRow("page down") << Keys{Qt::Key_PageDown, Qt::Key_PageDown} << 40 << 60;
+    QTest::newRow("page up of saturation") << Keys{Qt::CTRL + Qt::Key_PageUp} << 50 << 80;
+    QTest::newRow("page down of saturation") << Keys{Qt::CTRL + Qt::Key_PageDown} << 30 << 80;
+    QTest::newRow("home") << Keys{Qt::Key_Home} << 0 << 80;
+    QTest::newRow("end") << Keys{Qt::Key_End} << 100 << 80;
+    QTest::newRow("home of value") << Keys{Qt::CTRL + Qt::Key_Home} << 40 << 0;
+    QTest::newRow("end of value") << Keys{Qt::CTRL + Qt::Key_End} << 40 << 100;
+    QTest::newRow("stays inside") << Keys{Qt::Key_End, Qt::Key_Right, Qt::CTRL + Qt::Key_End,
+                                          Qt::Key_PageUp}
+                                  << 100 << 100;
+}
+
+void TestKeyboardAccess::square()
+{
+    QFETCH(Keys, keys);
+    Stage<TavikColorPicker> stage(190, 136);
+    stage.control->setCurrentHue(0.4);
+    stage.control->setCurrentColor(QColor::fromHsvF(0.4, 0.4, 0.8));
+    QSignalSpy changed(stage.control, &TavikColorPicker::colorChanged);
+    type(keys);
+    QCOMPARE(changed.count(), keys.size());
+    const QColor color = stage.control->currentColor();
+    QTEST(percent(color.saturationF()), "saturation");
+    QTEST(percent(color.valueF()), "value");
+}
+
+void TestKeyboardAccess::squareReachesEachPixel()
+{
+    Stage<TavikColorPicker> stage(190, 136);
+    for (int x = 0; x <= 188; ++x) {
+        QCOMPARE(qRound(stage.control->currentColor().saturationF() * 188), x);
+        type({int(Qt::SHIFT) + Qt::Key_Right});
+    }
+}
+
+void TestKeyboardAccess::palette_data()
+{
+    QTest::addColumn<Keys>("keys");
+    QTest::addColumn<QString>("color");
+    QTest::newRow("first") << Keys{Qt::Key_Space} << QStringLiteral("#b60e2e");
+    QTest::newRow("right") << Keys{Qt::Key_Right, Qt::Key_Return} << QStringLiteral("#f3980f");
+    QTest::newRow("down") << Keys{Qt::Key_Down, Qt::Key_Enter} << QStringLiteral("#3981f2");
+    QTest::newRow("end of the row") << Keys{Qt::Key_End, Qt::Key_Right, Qt::Key_Space}
+                                    << QStringLiteral("#9c14ca");
+    QTest::newRow("back") << Keys{Qt::Key_Down, Qt::Key_Right, Qt::Key_Up,
+                                  Qt::Key_Left, Qt::Key_Left,  Qt::Key_Space}
+                          << QStringLiteral("#b60e2e");
+    QTest::newRow("add button") << Keys{Qt::Key_Down, Qt::Key_End, Qt::Key_Space} << QStringLiteral("add");
+}
+
+void TestKeyboardAccess::palette()
+{
+    QFETCH(Keys, keys);
+    Stage<TavikColorWell> stage;
+    QStringList received;
+    connect(stage.control, &TavikColorWell::colorSelected,
+            [&](const QColor &color) { received.append(color.name()); });
+    connect(stage.control, &TavikColorWell::addColorRequested,
+            [&] { received.append(QStringLiteral("add")); });
+    type(keys);
+    QFETCH(QString, color);
+    QCOMPARE(received, QStringList(color));
+}
+
+void TestKeyboardAccess::gradientHandles_data()
+{
+    QTest::addColumn<Keys>("keys");
+    QTest::addColumn<int>("start");
+    QTest::addColumn<int>("end");
+    const int next = Qt::Key_Tab;
+    QTest::newRow("start right") << Keys{next, Qt::Key_Right, Qt::Key_Up} << 52 << 100;
+    QTest::newRow("start left") << Keys{next, Qt::Key_Left, Qt::Key_PageDown} << 39 << 100;
+    QTest::newRow("start to the ends") << Keys{next, Qt::Key_Home} << 0 << 100;
+    QTest::newRow("start stops at the end") << Keys{next, Qt::Key_End} << 99 << 100;
+    QTest::newRow("end") << Keys{next, next, Qt::Key_PageDown, Qt::Key_Down, Qt::Key_Up} << 50 << 90;
+    QTest::newRow("end stops at the start") << Keys{next, next, Qt::Key_Home} << 50 << 51;
+    QTest::newRow("not on a square") << Keys{Qt::Key_Right} << 50 << 100;
+}
+
+void TestKeyboardAccess::gradientHandles()
+{
+    QFETCH(Keys, keys);
+    Stage<TavikGradientBar> stage;
+    type(keys);
+    QTEST(stage.control->startValue(), "start");
+    QTEST(stage.control->endValue(), "end");
+}
+
+void TestKeyboardAccess::gradientParts()
+{
+    Stage<TavikGradientBar> stage;
+    TavikLineEdit after(&stage.window);
+    after.move(20, 100);
+    after.show();
+    QWidget::setTabOrder(stage.control, &after);
+    QSignalSpy requests(stage.control, &TavikGradientBar::colorPopupRequest);
+    type({Qt::Key_Space});
+    QCOMPARE(requests.takeFirst().at(1).value<QColor>(), QColor(Qt::white));
+    type({Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Return});
+    QCOMPARE(requests.takeFirst().at(1).value<QColor>(), QColor(Qt::black));
+    type({Qt::Key_Tab});
+    QVERIFY(after.hasFocus());
+    type({Qt::Key_Backtab, Qt::Key_Return}); // comes in at its last part
+    QVERIFY(stage.control->hasFocus());
+    QCOMPARE(requests.takeFirst().at(1).value<QColor>(), QColor(Qt::black));
+    type({Qt::Key_Backtab, Qt::Key_Backtab});
+    const QRect before = marked(stage.window);
+    type({Qt::Key_PageUp});
+    QVERIFY(marked(stage.window).left() > before.left()); // the mark goes with the handle
+}
+
+void TestKeyboardAccess::panel()
+{
+    Stage<TavikExpandable> stage(QStringLiteral("Effects"), 5.0, true);
+    auto *edit = new TavikLineEdit;
+    stage.control->addWidget(edit);
+    QSignalSpy toggled(stage.control, &TavikExpandable::animationStarted);
+    type({Qt::Key_Space, Qt::Key_Return});
+    QCOMPARE(toggled.count(), 2);
+    edit->show();
+    edit->setFocus();
+    QVERIFY(edit->hasFocus());
+    type({Qt::Key_Return}); // comes up from the content, and is no business of the title
+    QCOMPARE(toggled.count(), 2);
+    type({Qt::Key_Backtab});
+    QVERIFY(stage.control->hasFocus()); // with no stop at the arrow
+}
+
+void TestKeyboardAccess::tabOrderOfThePopup()
+{
+    TavikColorPopup popup;
+    TavikKeyboardAccess::install(&popup);
+    popup.showColorPopup({10, 10}, Qt::red);
+    QApplication::setActiveWindow(&popup);
+    QVERIFY(popup.findChild<TavikColorPicker *>()->hasFocus());
+    QVector<QWidget *> order;
+    do {
+        order.append(QApplication::focusWidget());
+        type({Qt::Key_Tab});
+    } while (!order.contains(QApplication::focusWidget()) && order.size() < 20);
+    QCOMPARE(QApplication::focusWidget(), order.first());
+    QCOMPARE(order.size(), 13); // square, button, two sliders, eight fields, palette
+    const auto place = [&](QWidget *widget) { return widget->mapTo(&popup, widget->rect().center()); };
+    for (int i = 1; i < order.size(); ++i) {
+        const QPoint before = place(order.at(i - 1));
+        const QPoint here = place(order.at(i));
+        QVERIFY2(here.y() > before.y() || here.x() > before.x(), qPrintable(QString::number(i)));
+    }
+}
+
+void TestKeyboardAccess::mark()
+{
+    Stage<TavikColorWell> stage;
+    QCOMPARE(marked(stage.window), QRect(21, 21, 16, 16));
+    type({Qt::Key_Down, Qt::Key_Right});
+    QCOMPARE(marked(stage.window), QRect(44, 44, 16, 16));
+    QTest::mouseClick(stage.control, Qt::LeftButton, {}, QPoint(50, 5)); // where the mouse was, keys go on
+    QCOMPARE(marked(stage.window), QRect(67, 21, 16, 16));
+
+    TavikButton button(QStringLiteral("Text"), TavikButton::Solid, &stage.window);
+    button.setGeometry(20, 100, 80, 30);
+    button.show();
+    button.setFocus();
+    QCOMPARE(marked(stage.window), button.geometry());
+    TavikLineEdit edit(&stage.window);
+    edit.show();
+    edit.setFocus();
+    QCOMPARE(marked(stage.window), QRect());
+}
+
+void TestKeyboardAccess::coversLaterWidgets()
+{
+    Stage<QWidget> stage;
+    TavikKeyboardAccess::install(stage.control);
+    TavikKeyboardAccess::install(nullptr);
+    auto *group = new QWidget; // made and shown elsewhere, and moved in with what it holds
+    auto *well = new TavikColorWell(group);
+    group->show();
+    group->setParent(stage.control);
+    auto *square = new TavikColorPicker(stage.control);
+    group->show();
+    square->show();
+    for (QWidget *control : {static_cast<QWidget *>(well), static_cast<QWidget *>(square)})
+        QCOMPARE(control->focusPolicy(), Qt::StrongFocus);
+    QSignalSpy selected(well, &TavikColorWell::colorSelected);
+    well->setFocus();
+    type({Qt::Key_Space});
+    QCOMPARE(selected.count(), 1);
+}
+
+void TestKeyboardAccess::offByDefault()
+{
+    QWidget window;
+    TavikColorPopup popup(&window);
+    auto *panel = new TavikExpandable(&window);
+    auto *bar = new TavikGradientBar(&window);
+    window.show();
+    popup.showColorPopup({10, 10}, Qt::red);
+    QList<QWidget *> controls = {panel, bar, popup.findChild<TavikColorPicker *>(),
+                                 popup.findChild<TavikColorWell *>()};
+    for (const QWidget *control : qAsConst(controls))
+        QCOMPARE(control->focusPolicy(), Qt::NoFocus);
+    QVERIFY(!window.findChild<QFocusFrame *>() && !popup.focusWidget());
+    TavikKeyboardAccess::install(&window);
+    for (const QWidget *control : qAsConst(controls))
+        QVERIFY(control->focusPolicy() & Qt::TabFocus);
+}
+
+void TestKeyboardAccess::controlsGoWhileFocused()
+{
+    Stage<QWidget> stage;
+    for (QWidget *control :
+         {static_cast<QWidget *>(new TavikGradientBar), static_cast<QWidget *>(new TavikColorWell),
+          static_cast<QWidget *>(new TavikExpandable(QStringLiteral("title"), 5.0))}) {
+        control->setParent(&stage.window);
+        control->show();
+        control->setFocus();
+        QVERIFY(!marked(stage.window).isNull());
+        delete control;
+        QVERIFY(marked(stage.window).isNull());
+    }
+    auto *well = new TavikColorWell(stage.control);
+    well->show();
+    well->setFocus();
+    connect(well, &TavikColorWell::colorSelected, well, &QObject::deleteLater);
+    type({Qt::Key_Space});
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(marked(stage.window).isNull());
+}
+
+TAVIK_TEST_MAIN(TestKeyboardAccess)
+#include "tst_keyboardaccess.moc"
