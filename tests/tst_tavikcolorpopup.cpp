@@ -8,6 +8,7 @@
 #include <Tavik/TavikColorWell>
 #include <Tavik/TavikLineEdit>
 
+#include <QDialog>
 #include <QGraphicsDropShadowEffect>
 #include <QLayout>
 #include <QMetaMethod>
@@ -42,6 +43,7 @@ private Q_SLOTS:
     void greysStayGrey();
     void palette();
     void samplerIsCancelled();
+    void samplerOverAModalDialog();
     void samplerReleases();
     void deletedInItsOwnSignal();
     void wildColours();
@@ -464,6 +466,18 @@ void TestTavikColorPopup::samplerIsCancelled()
     popup.show();
     popup.hide();
     QVERIFY(hidden.count() >= 1); // the cancelled one is still known
+}
+
+void TestTavikColorPopup::samplerOverAModalDialog()
+{
+    QDialog dialog;
+    TavikColorPopup popup(Qt::red, &dialog);
+    dialog.setModal(true);
+    dialog.show();
+    popup.showColorPopup(QPoint(200, 10), Qt::red);
+    pickButton(popup)->click();
+    QTest::keyClick(sampler()->windowHandle(), Qt::Key_Escape); // as the window system tells of a key
+    QVERIFY(!sampler());
 }
 
 void TestTavikColorPopup::samplerReleases()
