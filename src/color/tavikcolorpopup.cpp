@@ -16,6 +16,8 @@
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace {
 
 constexpr int separatorOffset = 295; // pixels below the outline's upper edge
@@ -82,7 +84,7 @@ void TavikColorPopup::buildWindow()
     m_mainLayout = new QVBoxLayout;
     m_mainLayout->setSpacing(0);
     m_mainLayout->setContentsMargins(0, m_shadowRadius + m_arrowHeight, 0, m_shadowRadius);
-    static_cast<QLayoutItem *>(m_mainLayout)->setAlignment(Qt::AlignHCenter);
+    m_mainLayout->setAlignment(Qt::AlignHCenter);
     setLayout(m_mainLayout);
 }
 
@@ -351,9 +353,8 @@ void TavikColorPopup::onAddColorWellRequested()
 
 void TavikColorPopup::onClickPickColor()
 {
-    Screenshot *previous = m_screenshot;
-    // It shows itself and so closes this popup, while m_screenshot still tells of the run before.
-    m_screenshot = new Screenshot(nullptr);
+    // The new one shows itself and so closes this popup, while m_screenshot still tells of the run before.
+    Screenshot *previous = std::exchange(m_screenshot, new Screenshot(nullptr));
     connect(m_screenshot, SIGNAL(screenColor(QColor)), this, SLOT(onPickColorChanged(QColor)));
     if (previous)
         previous->deleteLater(); // it may be in the middle of its own signal
