@@ -1,3 +1,4 @@
+#include "plaincolor.h"
 #include "support.h"
 
 #include <Tavik/LenConverter>
@@ -9,7 +10,6 @@
 #include <Tavik/TavikLineEdit>
 
 #include <QDialog>
-#include <QGraphicsDropShadowEffect>
 #include <QLayout>
 #include <QMetaMethod>
 #include <QPointer>
@@ -103,13 +103,8 @@ QWidget *sampler()
 QVector<QImage> scenes(bool withPlainShadow)
 {
     TavikColorPopup popup;
-    if (withPlainShadow) {
-        auto *effect = new QGraphicsDropShadowEffect(&popup);
-        effect->setOffset(QPointF(0, 0));
-        effect->setColor(Qt::black);
-        effect->setBlurRadius(5);
-        popup.setGraphicsEffect(effect);
-    }
+    if (withPlainShadow)
+        Plain::addShadow(&popup);
     QVector<QImage> pictures;
     const auto take = [&] { pictures.append(Support::picture(&popup)); };
     popup.showColorPopup(QPoint(200, -2000), QColor(20, 90, 200));
