@@ -3,12 +3,12 @@
 #include "lenconverter.h"
 #include "popupshadow_p.h"
 #include "screenshot_p.h"
-#include "tavikbutton.h"
 #include "tavikcolorpicker.h"
 #include "tavikcolorsilder.h"
 #include "tavikcolorwell.h"
 #include "taviklabel.h"
 #include "taviklineedit.h"
+#include "whitebutton_p.h"
 
 #include <QGuiApplication>
 #include <QPainter>
@@ -124,13 +124,7 @@ QBoxLayout *TavikColorPopup::buildSliders()
     m_pickButton = new TavikButton(QIcon(QStringLiteral(":/Color/images/color_picker.svg")), QSizeF(-1, -1),
                                    TavikButton::Outline);
     m_pickButton->setFixedSize(LenConverter::iniRemToPxSz(24, 24));
-    m_pickButton->setBgColor(QStringLiteral("#ffffff"));
-    m_pickButton->setHoverBgColor(QStringLiteral("#f7f7f7"));
-    m_pickButton->setPressBgColor(QStringLiteral("#e8e8e8"));
-    m_pickButton->setBorderColor(QStringLiteral("#d3d3d3"));
-    m_pickButton->setHoverBorderColor(QStringLiteral("#d3d3d3"));
-    m_pickButton->setPressBorderColor(QStringLiteral("#d3d3d3"));
-    m_pickButton->updateStyleSheet();
+    WhiteButton::style(m_pickButton);
 
     const QSize size = LenConverter::iniRemToPxSz(166, 16);
     m_hueSlider = new TavikColorSilder(size.width(), size.height(), TavikColorSilder::Hue);
