@@ -1,6 +1,7 @@
 #ifndef TAVIK_TESTS_XSERVER_H
 #define TAVIK_TESTS_XSERVER_H
 
+#include <QCoreApplication>
 #include <QProcess>
 
 /// An X server of its own at a free display, with one screen and nobody watching. Applications that start
