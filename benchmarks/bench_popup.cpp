@@ -1,11 +1,12 @@
 #include "benches.h"
 #include "comparison.h"
 
+#include "../tests/plaincolor.h"
+
 #include <Tavik/Tavik>
 
 #include <QApplication>
 #include <QColorDialog>
-#include <QGraphicsDropShadowEffect>
 #include <QMouseEvent>
 
 #include <memory>
@@ -50,33 +51,16 @@ std::shared_ptr<TavikColorPopup> shownPopup(int rem)
     return popup;
 }
 
-/// The square's picture the plain way, pixel by pixel.
-void fillPixelByPixel(const QSize &size, double hue)
-{
-    QImage image(size, QImage::Format_RGB32);
-    for (int x = 0; x < size.width(); ++x) {
-        for (int y = 0; y < size.height(); ++y) {
-            const double saturation = double(x) / size.width();
-            const double value = double(size.height() - y) / size.height();
-            image.setPixel(x, y, QColor::fromHsvF(hue, saturation, value, 1.0).rgb());
-        }
-    }
-}
-
 void compareWithPlainWay(int rem, double bound)
 {
     const auto ours = shownPopup(rem);
     const auto plain = shownPopup(rem);
-    auto *effect = new QGraphicsDropShadowEffect(plain.get());
-    effect->setOffset(QPointF(0, 0));
-    effect->setColor(Qt::black);
-    effect->setBlurRadius(5);
-    plain->setGraphicsEffect(effect);
+    Plain::addShadow(plain.get());
     QCoreApplication::processEvents();
 
     auto *plainSquare = plain->findChild<TavikColorPicker *>();
     const QSize size = plainSquare->size() - QSize(2, 2);
-    const Work plainDrag = drag(plainSquare, [size] { fillPixelByPixel(size, 0.6); });
+    const Work plainDrag = drag(plainSquare, [size] { Plain::square(0.6, size.width(), size.height()); });
     compare(
         "40 drag steps at rem " + std::to_string(rem) + ", against the plain way", bound,
         [ours, drag = drag(ours->findChild<TavikColorPicker *>())] { return drag(); },

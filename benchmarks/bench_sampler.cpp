@@ -2,9 +2,10 @@
 #include "comparison.h"
 #include "screenshot_p.h"
 
+#include "../tests/xserver.h"
+
 #include <QApplication>
 #include <QMouseEvent>
-#include <QProcess>
 
 #include <algorithm>
 #include <cstdio>
@@ -46,25 +47,9 @@ struct Times
 /// platform has no screen to take a picture of.
 Times measureOnScreen()
 {
-    QProcess server;
-    server.start(QStringLiteral("Xvfb"),
-                 {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
-                  QStringLiteral("0"), QStringLiteral("1920x1080x24"), QStringLiteral("-nolisten"),
-                  QStringLiteral("tcp")});
-    if (!server.waitForReadyRead())
-        qFatal("Xvfb is needed (Debian package xvfb)");
-
-    QProcess probe;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("DISPLAY"),
-                       QLatin1Char(':') + QString::fromLatin1(server.readLine()).trimmed());
-    environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
-    probe.setProcessEnvironment(environment);
-    probe.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--sampler-times")});
-    probe.waitForFinished();
-    const QList<QByteArray> printed = probe.readAllStandardOutput().simplified().split(' ');
-    server.terminate();
-    server.waitForFinished();
+    const XServer server(1920, 1080);
+    const QList<QByteArray> printed =
+        XServer::outputOfThisProgram(QStringLiteral("--sampler-times")).split(' ');
     if (printed.size() != 2)
         qFatal("The sampler could not be measured");
     return {printed.first().toDouble(), printed.last().toDouble()};

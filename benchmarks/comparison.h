@@ -17,7 +17,8 @@ using Work = std::function<std::function<void()>()>;
 void compare(const std::string &name, double bound, const Work &ours, const Work &stock,
              int repetitions = 0);
 
-/// Registers a pair of figures that are no times, in thousands of something, each taken once.
+/// Registers a pair of figures that come as they are, each asked for once: times that were measured elsewhere,
+/// in milliseconds, or thousands of something else.
 void compareFigures(const std::string &name, double bound, const std::function<double()> &ours,
                     const std::function<double()> &stock);
 

@@ -1,6 +1,7 @@
 #ifndef TAVIK_TESTS_PLAINCOLOR_H
 #define TAVIK_TESTS_PLAINCOLOR_H
 
+#include <QGraphicsDropShadowEffect>
 #include <QImage>
 #include <QLinearGradient>
 #include <QPainter>
@@ -22,6 +23,16 @@ inline QImage square(double hue, int width, int height)
         }
     }
     return image;
+}
+
+/// The popup's shadow, blurred anew whenever something in the popup is painted.
+inline void addShadow(QWidget *popup)
+{
+    auto *effect = new QGraphicsDropShadowEffect(popup);
+    effect->setOffset(QPointF(0, 0));
+    effect->setColor(Qt::black);
+    effect->setBlurRadius(5);
+    popup->setGraphicsEffect(effect);
 }
 
 class Picker : public QWidget

@@ -384,8 +384,8 @@ void TestColorControls::buttonSwatch()
     QCOMPARE(tones.size(), 2);
     QVERIFY(!tones.contains(0xffff0000));
 
-    button.setFixedSize(4, 3);
-    Support::picture(&button);
+    button.setFixedSize(100 - swatch.width(), 40); // all margins
+    QCOMPARE(Support::picture(&button).pixel(button.width() / 2, 20), around);
 }
 
 TAVIK_TEST_MAIN(TestColorControls)

@@ -1,8 +1,7 @@
 #include "support.h"
+#include "xserver.h"
 
 #include <Tavik/LenConverter>
-
-#include <QProcess>
 
 #include <cstdio>
 #include <cstring>
@@ -35,26 +34,8 @@ void TestInitRem::bands_data()
 void TestInitRem::bands()
 {
     QFETCH(int, width);
-    QProcess server;
-    server.start(QStringLiteral("Xvfb"),
-                 {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
-                  QStringLiteral("0"), QStringLiteral("%1x900x24").arg(width), QStringLiteral("-nolisten"),
-                  QStringLiteral("tcp")});
-    QVERIFY2(server.waitForStarted(), "Xvfb is needed (Debian package xvfb)");
-    QVERIFY(server.waitForReadyRead());
-    const QString display = QLatin1Char(':') + QString::fromLatin1(server.readLine()).trimmed();
-
-    QProcess probe;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("DISPLAY"), display);
-    environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
-    probe.setProcessEnvironment(environment);
-    probe.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--print-rem")});
-    QVERIFY(probe.waitForFinished());
-    server.terminate();
-    server.waitForFinished();
-
-    QTEST(probe.readAllStandardOutput().simplified().toInt(), "rem");
+    const XServer server(width, 900);
+    QTEST(XServer::outputOfThisProgram(QStringLiteral("--print-rem")).toInt(), "rem");
 }
 
 int main(int argc, char **argv)

@@ -1,3 +1,4 @@
+#include "plaincolor.h"
 #include "support.h"
 
 #include <Tavik/LenConverter>
@@ -8,7 +9,7 @@
 #include <Tavik/TavikColorWell>
 #include <Tavik/TavikLineEdit>
 
-#include <QGraphicsDropShadowEffect>
+#include <QDialog>
 #include <QLayout>
 #include <QMetaMethod>
 #include <QPointer>
@@ -42,6 +43,7 @@ private Q_SLOTS:
     void greysStayGrey();
     void palette();
     void samplerIsCancelled();
+    void samplerOverAModalDialog();
     void samplerReleases();
     void deletedInItsOwnSignal();
     void wildColours();
@@ -101,13 +103,8 @@ QWidget *sampler()
 QVector<QImage> scenes(bool withPlainShadow)
 {
     TavikColorPopup popup;
-    if (withPlainShadow) {
-        auto *effect = new QGraphicsDropShadowEffect(&popup);
-        effect->setOffset(QPointF(0, 0));
-        effect->setColor(Qt::black);
-        effect->setBlurRadius(5);
-        popup.setGraphicsEffect(effect);
-    }
+    if (withPlainShadow)
+        Plain::addShadow(&popup);
     QVector<QImage> pictures;
     const auto take = [&] { pictures.append(Support::picture(&popup)); };
     popup.showColorPopup(QPoint(200, -2000), QColor(20, 90, 200));
@@ -464,6 +461,18 @@ void TestTavikColorPopup::samplerIsCancelled()
     popup.show();
     popup.hide();
     QVERIFY(hidden.count() >= 1); // the cancelled one is still known
+}
+
+void TestTavikColorPopup::samplerOverAModalDialog()
+{
+    QDialog dialog;
+    TavikColorPopup popup(Qt::red, &dialog);
+    dialog.setModal(true);
+    dialog.show();
+    popup.showColorPopup(QPoint(200, 10), Qt::red);
+    pickButton(popup)->click();
+    QTest::keyClick(sampler()->windowHandle(), Qt::Key_Escape); // as the window system tells of a key
+    QVERIFY(!sampler());
 }
 
 void TestTavikColorPopup::samplerReleases()

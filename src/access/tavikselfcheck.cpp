@@ -4,11 +4,17 @@
 
 #include <QGuiApplication>
 #include <QImage>
-#include <QImageReader>
 #include <QPixmap>
 #include <QScreen>
 
 namespace {
+
+/// Drawn, because a plugin that is listed may still fail to load.
+bool canDrawSvg()
+{
+    const char picture[] = "<svg xmlns='http://www.w3.org/2000/svg' width='1' height='1'/>";
+    return !QImage::fromData(picture, "svg").isNull();
+}
 
 bool canGrab(QScreen *screen)
 {
@@ -21,7 +27,7 @@ bool canGrab(QScreen *screen)
 QStringList TavikSelfCheck::problems()
 {
     QStringList found;
-    if (!QImageReader::supportedImageFormats().contains("svg"))
+    if (!canDrawSvg())
         found << tr("The SVG image format is missing: check marks, arrows and icons are not drawn. "
                     "Install the toolkit's SVG plugin.");
     if (LenConverter::rem() == 0)

@@ -16,6 +16,9 @@ Screenshot::Screenshot(QWidget *parent)
     createPaintMouseRect(nullptr);
     // A window gets its full size only later, or never without a window manager; the frame is placed now.
     setGeometry(QGuiApplication::primaryScreen()->geometry());
+    // A modal dialog keeps input from all windows but its own: nobody could leave the sampler.
+    if (QApplication::activeModalWidget())
+        setWindowModality(Qt::ApplicationModal);
     showFullScreen();
     setAttribute(Qt::WA_MouseTracking, true);
     const QPoint pointer = QCursor::pos();

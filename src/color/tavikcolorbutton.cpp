@@ -46,9 +46,12 @@ void TavikColorButton::updateStyleSheet()
 void TavikColorButton::paintEvent(QPaintEvent *event)
 {
     QPushButton::paintEvent(event);
+    const QRect swatch = swatchRect();
+    if (swatch.isEmpty())
+        return; // the toolkit would draw it inside out
     QPainter painter(this);
     painter.setPen(QPen(QColor(0xd3d3d3), 1));
-    Swatch::paint(painter, swatchRect(), Swatch::texture(), m_currentColor);
+    Swatch::paint(painter, swatch, Swatch::texture(), m_currentColor);
 }
 
 void TavikColorButton::onColorButtonClicked()

@@ -3,18 +3,20 @@
 #include "lenconverter.h"
 #include "popupshadow_p.h"
 #include "screenshot_p.h"
-#include "tavikbutton.h"
 #include "tavikcolorpicker.h"
 #include "tavikcolorsilder.h"
 #include "tavikcolorwell.h"
 #include "taviklabel.h"
 #include "taviklineedit.h"
+#include "whitebutton_p.h"
 
 #include <QGuiApplication>
 #include <QPainter>
 #include <QScreen>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
+
+#include <utility>
 
 namespace {
 
@@ -83,7 +85,7 @@ void TavikColorPopup::buildWindow()
     m_mainLayout = new QVBoxLayout;
     m_mainLayout->setSpacing(0);
     m_mainLayout->setContentsMargins(0, m_shadowRadius + m_arrowHeight, 0, m_shadowRadius);
-    static_cast<QLayoutItem *>(m_mainLayout)->setAlignment(Qt::AlignHCenter);
+    m_mainLayout->setAlignment(Qt::AlignHCenter);
     setLayout(m_mainLayout);
 }
 
@@ -124,13 +126,7 @@ QBoxLayout *TavikColorPopup::buildSliders()
                                    TavikButton::Outline);
     m_pickButton->setAccessibleName(tr("Pick a color from the screen"));
     m_pickButton->setFixedSize(LenConverter::iniRemToPxSz(24, 24));
-    m_pickButton->setBgColor(QStringLiteral("#ffffff"));
-    m_pickButton->setHoverBgColor(QStringLiteral("#f7f7f7"));
-    m_pickButton->setPressBgColor(QStringLiteral("#e8e8e8"));
-    m_pickButton->setBorderColor(QStringLiteral("#d3d3d3"));
-    m_pickButton->setHoverBorderColor(QStringLiteral("#d3d3d3"));
-    m_pickButton->setPressBorderColor(QStringLiteral("#d3d3d3"));
-    m_pickButton->updateStyleSheet();
+    WhiteButton::style(m_pickButton);
 
     const QSize size = LenConverter::iniRemToPxSz(166, 16);
     m_hueSlider = new TavikColorSilder(size.width(), size.height(), TavikColorSilder::Hue);
@@ -354,9 +350,8 @@ void TavikColorPopup::onAddColorWellRequested()
 
 void TavikColorPopup::onClickPickColor()
 {
-    Screenshot *previous = m_screenshot;
-    // It shows itself and so closes this popup, while m_screenshot still tells of the run before.
-    m_screenshot = new Screenshot(nullptr);
+    // The new one shows itself and so closes this popup, while m_screenshot still tells of the run before.
+    Screenshot *previous = std::exchange(m_screenshot, new Screenshot(nullptr));
     connect(m_screenshot, SIGNAL(screenColor(QColor)), this, SLOT(onPickColorChanged(QColor)));
     if (previous)
         previous->deleteLater(); // it may be in the middle of its own signal

@@ -60,14 +60,17 @@ public Q_SLOTS:
     void setCurrentColor(const QColor &currentColor);
 
     /// Opens the popup with a colour at a global point, in pixels: below it, or above it where there is no room
-    /// below on the primary screen. A grey gets the hue 0, so that the square shows colours. Emits nothing.
+    /// below on the primary screen. Sideways it always has its arrow at the point, also where it then stands
+    /// partly off the screen. A grey gets the hue 0, so that the square shows colours. Emits nothing.
     void showColorPopup(const QPoint &pos, const QColor &color);
 
 Q_SIGNALS:
-    /// The user has changed the colour. Emitted for each step of a drag and each key.
+    /// The user has changed the colour. Emitted for each step of a drag, each key, and each colour taken from
+    /// the palette or the screen; twice for a key that makes a field write its number anew, as "007" to "7".
     void colorChanged(QColor color);
 
-    /// The sampler has delivered a colour, or the popup was hidden while a sampler was there.
+    /// The sampler has delivered a colour, or the popup was hidden after the sampler was started and has
+    /// delivered none: it runs, or was left by Escape.
     void colorPopupHide();
 
 protected:

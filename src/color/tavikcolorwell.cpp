@@ -2,7 +2,7 @@
 
 #include "lenconverter.h"
 #include "swatch_p.h"
-#include "tavikbutton.h"
+#include "whitebutton_p.h"
 
 #include <QIcon>
 #include <QMouseEvent>
@@ -83,13 +83,6 @@ void TavikColorWell::buildAddButton()
     m_addButton->setFixedSize(m_cellSize);
     m_addButton->setGeometry(m_rects.last());
     m_addButton->setBorderRadius(QStringLiteral("0"));
-    m_addButton->setBgColor(QStringLiteral("#ffffff"));
-    m_addButton->setHoverBgColor(QStringLiteral("#f7f7f7"));
-    m_addButton->setPressBgColor(QStringLiteral("#e8e8e8"));
-    const QString border = QStringLiteral("#d3d3d3");
-    m_addButton->setBorderColor(border);
-    m_addButton->setHoverBorderColor(border);
-    m_addButton->setPressBorderColor(border);
-    m_addButton->updateStyleSheet();
+    WhiteButton::style(m_addButton);
     connect(m_addButton, &QAbstractButton::clicked, this, &TavikColorWell::addColorRequested);
 }
