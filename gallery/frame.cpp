@@ -10,6 +10,7 @@
 #include <QScrollArea>
 
 #include <Tavik/LenConverter>
+#include <Tavik/TavikContainer>
 #include <Tavik/TavikLabel>
 
 namespace {
@@ -21,6 +22,7 @@ constexpr int Seam = 1;
 
 Frame::Frame(const QString &page, QWidget *parent)
     : QWidget(parent)
+    , m_layout(new QGridLayout(this))
     , m_title(Look::heading({}, 1.667))
     , m_remChoice(new RemChoice)
     , m_header(buildHeader())
@@ -34,14 +36,13 @@ Frame::Frame(const QString &page, QWidget *parent)
     m_scrollArea->setBackgroundRole(QPalette::Window);
 
     auto *navigation = new Navigation(page);
-    auto *layout = new QGridLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(Seam);
-    layout->addWidget(navigation, 0, 0, 2, 1);
-    layout->addWidget(m_header, 0, 1);
-    layout->addWidget(m_scrollArea, 1, 1);
-    layout->setColumnStretch(1, 1);
-    layout->setRowStretch(1, 1);
+    m_layout->setContentsMargins(0, 0, 0, 0);
+    m_layout->setSpacing(Seam);
+    m_layout->addWidget(navigation, 0, 0, 2, 1);
+    m_layout->addWidget(m_header, 0, 1);
+    m_layout->addWidget(m_scrollArea, 1, 1);
+    m_layout->setColumnStretch(1, 1);
+    m_layout->setRowStretch(1, 1);
 
     setFocusProxy(navigation);
     connect(navigation, &Navigation::pageChosen, this, &Frame::showPage);
@@ -54,6 +55,15 @@ void Frame::showPage(const QString &name)
     m_page = name;
     m_title->setText(entry->title());
     m_scrollArea->setWidget(entry->make());
+}
+
+void Frame::showProblems(const QStringList &problems)
+{
+    if (problems.isEmpty())
+        return;
+    auto *strip = new TavikContainer(Horizontal, QStringLiteral("#fff4ce"), QStringLiteral("0"), QString());
+    strip->addWidget(Look::paragraph(problems.join(QLatin1Char('\n'))));
+    m_layout->addWidget(strip, 2, 0, 1, 2);
 }
 
 int Frame::fullHeight() const

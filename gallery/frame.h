@@ -3,6 +3,7 @@
 
 #include <QWidget>
 
+class QGridLayout;
 class QScrollArea;
 class RemChoice;
 class TavikLabel;
@@ -23,6 +24,9 @@ public:
     /// Shows a page, from its top. The name must be one of pageTable().
     void showPage(const QString &name);
 
+    /// Shows at the lower edge what is amiss with the set-up, if anything is.
+    void showProblems(const QStringList &problems);
+
     /// The height at which the whole page is seen, at the present width.
     int fullHeight() const;
 
@@ -36,6 +40,7 @@ private:
     QWidget *buildHeader();
 
     QString m_page;
+    QGridLayout *m_layout;
     TavikLabel *m_title;
     RemChoice *m_remChoice;
     QWidget *m_header;

@@ -8,6 +8,8 @@
 #include <QStyle>
 
 #include <Tavik/LenConverter>
+#include <Tavik/TavikKeyboardAccess>
+#include <Tavik/TavikSelfCheck>
 
 Window::Window(const QString &page, QWidget *parent)
     : QScrollArea(parent)
@@ -25,6 +27,8 @@ Window::Window(const QString &page, QWidget *parent)
 void Window::showFrame(const QString &page)
 {
     m_frame = new Frame(page);
+    m_frame->showProblems(TavikSelfCheck::problems());
+    TavikKeyboardAccess::install(m_frame);
     setWidget(m_frame);
     // Queued, as the button that was clicked goes with the frame.
     connect(m_frame->remChoice(), &RemChoice::remChosen, this, &Window::changeRem, Qt::QueuedConnection);
