@@ -112,6 +112,7 @@ void TestContainers::containerLayout()
     box.setAlignment(nested, Qt::AlignTop);
     QCOMPARE(static_cast<QLayoutItem *>(nested)->alignment(), Qt::AlignTop);
     box.addSpacerItem(new QSpacerItem(5, 6));
+    box.addSpacerItem(nullptr);
     QCOMPARE(layout->count(), 5);
 
     box.setContentMargin(12);
