@@ -261,6 +261,9 @@ void TestInputs::fontFamilies()
     QTest::keyClicks(box.lineEdit(), QStringLiteral("no such family"));
     QTest::keyClick(box.lineEdit(), Qt::Key_Return);
     QCOMPARE(box.count(), families.size());
+    box.setEditable(false);
+    box.initFontFamilies(); // without a field there is nothing to complete
+    QCOMPARE(box.findChildren<QCompleter *>().size(), 1);
 }
 
 void TestInputs::sliderUnits()
