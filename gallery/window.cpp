@@ -1,13 +1,12 @@
 #include "window.h"
 
 #include "frame.h"
+#include "look.h"
 #include "remchoice.h"
 
 #include <QGuiApplication>
 #include <QScreen>
 #include <QStyle>
-
-#include <Tavik/LenConverter>
 
 Window::Window(const QString &page, QWidget *parent)
     : QScrollArea(parent)
@@ -40,7 +39,7 @@ void Window::takeGoodSize()
 
 void Window::changeRem(int rem)
 {
-    LenConverter::m_rem = rem;
+    Look::setRem(rem);
     showFrame(m_frame->page());
     takeGoodSize();
     m_frame->remChoice()->setFocus();
