@@ -49,26 +49,18 @@ SheetMaker sheetOf(Arguments... arguments)
     return [=] { return Class(arguments...).styleSheet(); };
 }
 
+/// The sheet after all properties have changed.
 template <class Control>
 QString changedSheet()
 {
-    LenConverter::m_rem = 10;
     Control control;
+    if constexpr (std::is_same_v<Control, TavikCheckBox>)
+        control.setFontColor(QStringLiteral("#123456"));
     control.setFontRemSz(2.0);
     control.setIndicatorSz(1.5);
+    LenConverter::m_rem = 10; // sizes are stored in rem, and converted when the sheet is built
     control.updateStyleSheet();
     return control.styleSheet();
-}
-
-QString changedCheckBoxSheet()
-{
-    TavikCheckBox box;
-    box.setFontColor(QStringLiteral("#123456"));
-    box.setFontRemSz(2.0);
-    box.setIndicatorSz(1.5);
-    LenConverter::m_rem = 10; // sizes are stored in rem, and converted when the sheet is built
-    box.updateStyleSheet();
-    return box.styleSheet();
 }
 
 /// The contents and the inner box of a panel.
@@ -159,7 +151,7 @@ void TestClasses::sheets_data()
     QTest::addColumn<SheetMaker>("sheet");
     const auto add = [](const char *file, const SheetMaker &sheet) { QTest::newRow(file) << sheet; };
     add("checkbox-12", sheetOf<TavikCheckBox>());
-    add("checkbox-changed-10", changedCheckBoxSheet);
+    add("checkbox-changed-10", changedSheet<TavikCheckBox>);
     add("radiobutton-12", sheetOf<TavikRadioButton>());
     add("radiobutton-changed-10", changedSheet<TavikRadioButton>);
     for (int type = TavikLineEdit::Text; type <= TavikLineEdit::HexDigits; ++type)
@@ -175,6 +167,7 @@ void TestClasses::sheets_data()
     add("combobox-12", sheetOf<TavikComboBox>(TavikComboBox::Editable));
     add("combobox-12", sheetOf<TavikFontFamilyComboBox>());
     add("slider", sheetOf<TavikSlider>(100, 20));
+    add("slider", sheetOf<TavikSlider>());
     const QString grey = QStringLiteral("#d3d3d3");
     add("container", sheetOf<TavikContainer>(Vertical, QStringLiteral("#ececec"), QStringLiteral("1"), grey,
                                              QStringLiteral("2"), QStringLiteral("0")));

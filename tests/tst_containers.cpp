@@ -22,7 +22,6 @@ class TestContainers : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void containerDirections_data();
     void containerDirections();
     void containerLayout();
     void containerLook();
@@ -36,7 +35,6 @@ private Q_SLOTS:
     void expandableWildHeights();
     void expandableDeletedWhileRunning();
     void scrollArea();
-    void scrollAreaHeights_data();
     void scrollAreaHeights();
     void imageListSetup();
     void imageListImages();
@@ -75,21 +73,14 @@ QWidget *content(const TavikExpandable &panel)
 
 } // namespace
 
-void TestContainers::containerDirections_data()
-{
-    QTest::addColumn<int>("direction");
-    QTest::addColumn<int>("box");
-    QTest::newRow("column") << 0 << int(QBoxLayout::TopToBottom);
-    QTest::newRow("row") << 1 << int(QBoxLayout::LeftToRight);
-    QTest::newRow("anything else") << -7 << int(QBoxLayout::LeftToRight);
-}
-
 void TestContainers::containerDirections()
 {
-    QFETCH(int, direction);
-    const TavikContainer box(static_cast<Direction>(direction));
-    QTEST(int(boxOf(&box)->direction()), "box");
-    QCOMPARE(static_cast<const QLayoutItem *>(box.layout())->alignment(), Qt::AlignCenter);
+    for (int direction : {0, 1, -7}) {
+        const TavikContainer box(static_cast<Direction>(direction));
+        QCOMPARE(boxOf(&box)->direction(),
+                 direction == 0 ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+        QCOMPARE(static_cast<const QLayoutItem *>(box.layout())->alignment(), Qt::AlignCenter);
+    }
 }
 
 void TestContainers::containerLayout()
@@ -109,6 +100,7 @@ void TestContainers::containerLayout()
     QCOMPARE(layout->stretch(2), 1);
     auto *nested = new QVBoxLayout;
     box.addLayout(nested);
+    QCOMPARE(layout->stretch(3), 0);
     box.setAlignment(nested, Qt::AlignTop);
     QCOMPARE(static_cast<QLayoutItem *>(nested)->alignment(), Qt::AlignTop);
     box.addSpacerItem(new QSpacerItem(5, 6));
@@ -174,6 +166,8 @@ void TestContainers::expandableParts()
     panel.setTitle(QStringLiteral("Other"));
     QCOMPARE(label->text(), QStringLiteral("Other"));
     const QWidget *inner = content(panel)->layout()->itemAt(0)->widget();
+    QCOMPARE(inner->layout()->contentsMargins(), QMargins(1, 1, 1, 1));
+    QCOMPARE(content(panel)->layout()->contentsMargins(), QMargins(1, 1, 1, 1));
     QCOMPARE(static_cast<const QLayoutItem *>(inner->layout())->alignment(),
              Qt::AlignHCenter | Qt::AlignTop);
     auto *child = new QWidget;
@@ -363,23 +357,16 @@ void TestContainers::scrollArea()
     QCOMPARE(area.size(), QSize(90, 30));
 }
 
-void TestContainers::scrollAreaHeights_data()
-{
-    QTest::addColumn<double>("height");
-    QTest::addColumn<int>("pixels");
-    QTest::newRow("cut, not rounded") << 30.999 << 30;
-    QTest::newRow("not a number") << std::nan("") << 0;
-    QTest::newRow("too big") << 1e300 << 16777215;
-    QTest::newRow("negative") << -5.0 << 0;
-}
-
 void TestContainers::scrollAreaHeights()
 {
-    QFETCH(double, height);
     allowWarning(QStringLiteral("^QWidget::set(Min|Max)imumSize: .*"));
-    TavikScrollArea area;
-    area.setRemHeight(height);
-    QTEST(area.maximumHeight(), "pixels");
+    const std::pair<double, int> rows[] = {
+        {30.999, 30}, {std::nan(""), 0}, {1e300, QWIDGETSIZE_MAX}, {-5.0, 0}};
+    for (const auto &[height, pixels] : rows) {
+        TavikScrollArea area;
+        area.setRemHeight(height);
+        QCOMPARE(area.maximumHeight(), pixels);
+    }
 }
 
 void TestContainers::imageListSetup()
