@@ -63,12 +63,11 @@ QString changedSheet()
     return control.styleSheet();
 }
 
-/// The contents and the inner box of a panel.
-QString expandableSheet(int depth)
+/// The title row, the contents and the inner box of a panel.
+QString expandableSheet(int box)
 {
-    TavikExpandable panel(QStringLiteral("title"), 5.0, nullptr);
-    QWidget *box = panel.layout()->itemAt(1)->widget();
-    return depth == 0 ? box->styleSheet() : box->layout()->itemAt(0)->widget()->styleSheet();
+    const TavikExpandable panel(QStringLiteral("title"), 5.0, nullptr);
+    return panel.findChildren<TavikContainer *>().at(box)->styleSheet();
 }
 
 QString comboBoxSheet(bool ofView, int rem, double fontRem)
@@ -172,8 +171,9 @@ void TestClasses::sheets_data()
     add("container", sheetOf<TavikContainer>(Vertical, QStringLiteral("#ececec"), QStringLiteral("1"), grey,
                                              QStringLiteral("2"), QStringLiteral("0")));
     add("container-transparent", sheetOf<TavikContainer>(Horizontal));
-    add("expandable-content", [] { return expandableSheet(0); });
-    add("expandable-inner", [] { return expandableSheet(1); });
+    add("container", [] { return expandableSheet(0); });
+    add("expandable-content", [] { return expandableSheet(1); });
+    add("expandable-inner", [] { return expandableSheet(2); });
     add("scrollarea", sheetOf<TavikScrollArea>(QStringLiteral("2"), QStringLiteral("#010203"),
                                                QStringLiteral("#fafafa")));
     add("scrollarea-plain", sheetOf<TavikScrollArea>());
