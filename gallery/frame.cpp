@@ -69,8 +69,9 @@ void Frame::showProblems(const QStringList &problems)
 int Frame::fullHeight() const
 {
     const QWidget *page = m_scrollArea->widget();
-    const int pageHeight =
-        qMax(page->minimumSizeHint().height(), page->heightForWidth(m_scrollArea->width()));
+    // Beside a bar the page is narrower and may be a line higher: a height that is enough only without the
+    // bar would keep it.
+    const int pageHeight = qMax(page->minimumSizeHint().height(), page->heightForWidth(page->width()));
     return m_header->height() + Seam + pageHeight;
 }
 

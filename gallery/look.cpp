@@ -8,6 +8,7 @@
 
 #include <Tavik/LenConverter>
 #include <Tavik/TavikLabel>
+#include <Tavik/TypographyTool>
 
 namespace {
 
@@ -37,6 +38,14 @@ void Look::apply(QApplication &app)
     if (isInstalled(QStringLiteral("Inter")))
         font.setFamily(QStringLiteral("Inter"));
     app.setFont(font);
+}
+
+void Look::setRem(int rem)
+{
+    LenConverter::m_rem = rem;
+    QFont font = QApplication::font();
+    font.setPixelSize(TypographyTool::defualtFontSz().toInt());
+    QApplication::setFont(font);
 }
 
 QFont Look::codeFont()

@@ -25,6 +25,10 @@ constexpr double SmallGap = 1;
 /// Fixes style, palette and font, so that pictures are the same on every desktop.
 void apply(QApplication &app);
 
+/// Sets the pixels per rem, and the application's font to the size of ordinary text: what a style sheet
+/// measures in em follows that font, such as step buttons, arrows and scroll bars.
+void setRem(int rem);
+
 /// The font of code: 1 rem, monospaced.
 QFont codeFont();
 

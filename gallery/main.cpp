@@ -50,8 +50,7 @@ int main(int argc, char **argv)
     if (commandLine.asksForFiles())
         return writeFiles(commandLine);
     LenConverter::initRem();
-    if (commandLine.rem() > 0)
-        LenConverter::m_rem = commandLine.rem();
+    Look::setRem(commandLine.rem() > 0 ? commandLine.rem() : LenConverter::rem());
     Window window(commandLine.page());
     window.show();
     return app.exec();

@@ -1,6 +1,7 @@
 #include "pictureswriter.h"
 
 #include "frame.h"
+#include "look.h"
 #include "pagetable.h"
 #include "remchoice.h"
 #include "samples.h"
@@ -12,8 +13,6 @@
 #include <QPropertyAnimation>
 #include <QTextStream>
 
-#include <Tavik/LenConverter>
-
 PicturesWriter::PicturesWriter(const QString &directory)
     : m_directory(directory)
 {
@@ -23,7 +22,7 @@ PicturesWriter::PicturesWriter(const QString &directory)
 bool PicturesWriter::writePages() const
 {
     for (int rem : RemChoice::remValues()) {
-        LenConverter::m_rem = rem;
+        Look::setRem(rem);
         for (const PageEntry &page : pageTable()) {
             Frame frame(page.name);
             settle(frame);
@@ -44,7 +43,7 @@ bool PicturesWriter::writePages() const
 
 bool PicturesWriter::writeSamples() const
 {
-    LenConverter::m_rem = 12;
+    Look::setRem(12);
     for (const Sample &sample : sampleTable()) {
         const std::unique_ptr<QWidget> widget(sample.make());
         settle(*widget);

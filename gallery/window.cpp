@@ -1,13 +1,13 @@
 #include "window.h"
 
 #include "frame.h"
+#include "look.h"
 #include "remchoice.h"
 
 #include <QGuiApplication>
 #include <QScreen>
 #include <QStyle>
 
-#include <Tavik/LenConverter>
 #include <Tavik/TavikKeyboardAccess>
 #include <Tavik/TavikSelfCheck>
 
@@ -44,7 +44,7 @@ void Window::takeGoodSize()
 
 void Window::changeRem(int rem)
 {
-    LenConverter::m_rem = rem;
+    Look::setRem(rem);
     showFrame(m_frame->page());
     takeGoodSize();
     m_frame->remChoice()->setFocus();

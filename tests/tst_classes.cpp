@@ -49,34 +49,25 @@ SheetMaker sheetOf(Arguments... arguments)
     return [=] { return Class(arguments...).styleSheet(); };
 }
 
+/// The sheet after all properties have changed.
 template <class Control>
 QString changedSheet()
 {
-    LenConverter::m_rem = 10;
     Control control;
+    if constexpr (std::is_same_v<Control, TavikCheckBox>)
+        control.setFontColor(QStringLiteral("#123456"));
     control.setFontRemSz(2.0);
     control.setIndicatorSz(1.5);
+    LenConverter::m_rem = 10; // sizes are stored in rem, and converted when the sheet is built
     control.updateStyleSheet();
     return control.styleSheet();
 }
 
-QString changedCheckBoxSheet()
+/// The title row, the contents and the inner box of a panel.
+QString expandableSheet(int box)
 {
-    TavikCheckBox box;
-    box.setFontColor(QStringLiteral("#123456"));
-    box.setFontRemSz(2.0);
-    box.setIndicatorSz(1.5);
-    LenConverter::m_rem = 10; // sizes are stored in rem, and converted when the sheet is built
-    box.updateStyleSheet();
-    return box.styleSheet();
-}
-
-/// The contents and the inner box of a panel.
-QString expandableSheet(int depth)
-{
-    TavikExpandable panel(QStringLiteral("title"), 5.0, nullptr);
-    QWidget *box = panel.layout()->itemAt(1)->widget();
-    return depth == 0 ? box->styleSheet() : box->layout()->itemAt(0)->widget()->styleSheet();
+    const TavikExpandable panel(QStringLiteral("title"), 5.0, nullptr);
+    return panel.findChildren<TavikContainer *>().at(box)->styleSheet();
 }
 
 QString comboBoxSheet(bool ofView, int rem, double fontRem)
@@ -159,7 +150,7 @@ void TestClasses::sheets_data()
     QTest::addColumn<SheetMaker>("sheet");
     const auto add = [](const char *file, const SheetMaker &sheet) { QTest::newRow(file) << sheet; };
     add("checkbox-12", sheetOf<TavikCheckBox>());
-    add("checkbox-changed-10", changedCheckBoxSheet);
+    add("checkbox-changed-10", changedSheet<TavikCheckBox>);
     add("radiobutton-12", sheetOf<TavikRadioButton>());
     add("radiobutton-changed-10", changedSheet<TavikRadioButton>);
     for (int type = TavikLineEdit::Text; type <= TavikLineEdit::HexDigits; ++type)
@@ -175,12 +166,14 @@ void TestClasses::sheets_data()
     add("combobox-12", sheetOf<TavikComboBox>(TavikComboBox::Editable));
     add("combobox-12", sheetOf<TavikFontFamilyComboBox>());
     add("slider", sheetOf<TavikSlider>(100, 20));
+    add("slider", sheetOf<TavikSlider>());
     const QString grey = QStringLiteral("#d3d3d3");
     add("container", sheetOf<TavikContainer>(Vertical, QStringLiteral("#ececec"), QStringLiteral("1"), grey,
                                              QStringLiteral("2"), QStringLiteral("0")));
     add("container-transparent", sheetOf<TavikContainer>(Horizontal));
-    add("expandable-content", [] { return expandableSheet(0); });
-    add("expandable-inner", [] { return expandableSheet(1); });
+    add("container", [] { return expandableSheet(0); });
+    add("expandable-content", [] { return expandableSheet(1); });
+    add("expandable-inner", [] { return expandableSheet(2); });
     add("scrollarea", sheetOf<TavikScrollArea>(QStringLiteral("2"), QStringLiteral("#010203"),
                                                QStringLiteral("#fafafa")));
     add("scrollarea-plain", sheetOf<TavikScrollArea>());

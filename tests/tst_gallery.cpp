@@ -6,12 +6,11 @@
 #include <pictureswriter.h>
 #include <remchoice.h>
 
-#include <Tavik/LenConverter>
-
 #include <QAbstractButton>
 #include <QLabel>
 #include <QProcess>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QTemporaryDir>
 
 class TestGallery : public TestCase
@@ -90,12 +89,13 @@ void TestGallery::nothingIsClipped()
     QFETCH(QString, page);
     QFETCH(int, rem);
     Look::apply(*qApp);
-    LenConverter::m_rem = rem;
+    Look::setRem(rem);
     Frame frame(page);
     PicturesWriter::settle(frame);
     frame.resize(Frame::goodSize());
     frame.grab();
     frame.resize(frame.width(), frame.fullHeight());
+    QCoreApplication::processEvents();
     frame.grab();
 
     int seen = 0;
@@ -120,6 +120,7 @@ void TestGallery::nothingIsClipped()
     QVERIFY(seen > 50);
     const auto *area = frame.findChild<QScrollArea *>();
     QVERIFY2(area->widget()->width() <= area->viewport()->width(), "the page is wider than its window");
+    QVERIFY2(!area->verticalScrollBar()->isVisibleTo(area), "the page scrolls at its full height");
 }
 
 void TestGallery::picturesWithoutADisplay()

@@ -17,20 +17,16 @@ private Q_SLOTS:
     void sheet_data();
     void sheet();
     void styleSettersWait();
-    void fontSizes();
     void typeOnALiveButton();
     void constructors();
     void iconSizes();
     void pictureAndCaption();
     void pictureAndCaptionWithout();
     void sizes();
-    void fill_data();
-    void fill();
     void pictureButton_data();
     void pictureButton();
     void pictureButtonWithoutIcon();
     void badInput();
-    void beforeTheRemIsChosen();
 };
 
 namespace {
@@ -103,16 +99,6 @@ void TestTavikButton::styleSettersWait()
     QCOMPARE(button.styleSheet(), Support::expectedSheet(QStringLiteral("button-solid-12")));
     button.setFontRemSz(2.0); // restyles, and so shows what was stored before
     QCOMPARE(button.styleSheet(), Support::expectedSheet(QStringLiteral("button-every-property")));
-}
-
-void TestTavikButton::fontSizes()
-{
-    LenConverter::m_rem = 18;
-    TavikButton button;
-    button.setFontRemSz(1.5);
-    QVERIFY(button.styleSheet().contains(QLatin1String(";font-size: 27px;")));
-    button.setFontPxSz(20);
-    QVERIFY(button.styleSheet().contains(QLatin1String(";font-size: 20px;")));
 }
 
 void TestTavikButton::typeOnALiveButton()
@@ -215,42 +201,6 @@ void TestTavikButton::sizes()
     QCOMPARE(button.width(), 84);
 }
 
-void TestTavikButton::fill_data()
-{
-    QTest::addColumn<int>("type");
-    QTest::addColumn<QString>("state");
-    QTest::addColumn<QColor>("colour");
-    const auto add = [](TavikButton::Type type, const char *name, const char *state, const char *colour) {
-        QTest::addRow("%s %s", name, state) << int(type) << QString::fromLatin1(state) << QColor(colour);
-    };
-    add(TavikButton::Solid, "solid", "rest", "#08a274");
-    add(TavikButton::Solid, "solid", "hover", "#13b585");
-    add(TavikButton::Solid, "solid", "pressed", "#138765");
-    add(TavikButton::Solid, "solid", "disabled", "#08a274");
-    add(TavikButton::Outline, "outline", "hover", "#ffffff");
-    add(TavikButton::Toggle, "toggle", "rest", "#ffffff");
-    add(TavikButton::Toggle, "toggle", "checked", "#08a274");
-    add(TavikButton::Toggle, "toggle", "checked hover", "#13b585");
-    add(TavikButton::Toggle, "toggle", "checked hover pressed", "#138765");
-    add(TavikButton::Flat, "flat", "checked", "#08a274");
-}
-
-void TestTavikButton::fill()
-{
-    QFETCH(int, type);
-    QFETCH(QString, state);
-    TavikButton button(TavikButton::Type(type), nullptr);
-    button.resize(60, 30);
-    button.setCheckable(true);
-    button.setChecked(state.contains(QLatin1String("checked")));
-    button.setEnabled(!state.contains(QLatin1String("disabled")));
-    button.show();
-    if (state.contains(QLatin1String("hover")))
-        Support::hover(&button);
-    button.setDown(state.contains(QLatin1String("pressed")));
-    QTEST(Support::picture(&button).pixelColor(30, 15), "colour");
-}
-
 void TestTavikButton::pictureButton_data()
 {
     QTest::addColumn<QString>("state");
@@ -327,19 +277,6 @@ void TestTavikButton::badInput()
     button.updateStyleSheet();
     Support::picture(&button);
     button.setIsPaintOverrided(true);
-    Support::picture(&button);
-}
-
-void TestTavikButton::beforeTheRemIsChosen()
-{
-    expectWarning(QStringLiteral("^QFont::setPixelSize: Pixel size <= 0"));
-    LenConverter::m_rem = 0;
-    TavikButton button(icon(), QSizeF(2, 2), tr("text"));
-    QVERIFY(button.styleSheet().contains(QLatin1String("font-size: 0px")));
-    QCOMPARE(button.iconSize(), QSize(0, 0));
-    button.setRemSize(8, 2);
-    QCOMPARE(button.maximumSize(), QSize(0, 0));
-    button.setFixedSize(60, 30);
     Support::picture(&button);
 }
 

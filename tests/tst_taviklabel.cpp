@@ -14,10 +14,6 @@ private Q_SLOTS:
     void restylesAtOnce();
     void typeWaitsForTheSheet();
     void sizes();
-    void textColours_data();
-    void textColours();
-    void badInput();
-    void beforeTheRemIsChosen();
 };
 
 void TestTavikLabel::sheet_data()
@@ -85,57 +81,6 @@ void TestTavikLabel::sizes()
     label.setRemWidth(5);
     label.setRemHeight(1.167);
     QCOMPARE(label.size(), QSize(60, 14));
-}
-
-void TestTavikLabel::textColours_data()
-{
-    QTest::addColumn<int>("type");
-    QTest::addColumn<bool>("enabled");
-    QTest::addColumn<QColor>("colour");
-    QTest::newRow("default") << int(TavikLabel::Default) << true << QColor("#404040");
-    QTest::newRow("assist") << int(TavikLabel::Assist) << true << QColor("#909090");
-    QTest::newRow("disabled default") << int(TavikLabel::Default) << false << QColor("#e0e0e0");
-    QTest::newRow("disabled assist") << int(TavikLabel::Assist) << false << QColor("#e0e0e0");
-}
-
-void TestTavikLabel::textColours()
-{
-    QFETCH(int, type);
-    QFETCH(bool, enabled);
-    TavikLabel label(QStringLiteral("HHH"), TavikLabel::Type(type));
-    label.setFontRemSz(6); // strokes wide enough to be flat inside
-    label.setEnabled(enabled);
-    QFETCH(QColor, colour);
-    const QImage picture = Support::picture(&label);
-    int count = 0;
-    for (int x = 0; x < picture.width(); ++x)
-        count += picture.pixelColor(x, picture.height() / 2) == colour;
-    QVERIFY2(count > 10, qPrintable(QString::number(count)));
-}
-
-void TestTavikLabel::badInput()
-{
-    TavikLabel label(QStringLiteral("text"));
-    label.setColor(QStringLiteral("no colour"));
-    label.setColor(QString());
-    Support::picture(&label);
-    expectWarning(QStringLiteral("^Could not parse stylesheet of object TavikLabel"));
-    label.setColor(QStringLiteral("{{"));
-    Support::picture(&label);
-    expectWarning(QStringLiteral("Negative sizes"));
-    label.setRemWidth(-1);
-    QCOMPARE(label.maximumWidth(), 0);
-}
-
-void TestTavikLabel::beforeTheRemIsChosen()
-{
-    expectWarning(QStringLiteral("^QFont::setPixelSize: Pixel size <= 0"));
-    LenConverter::m_rem = 0;
-    TavikLabel label(QStringLiteral("text"));
-    QVERIFY(label.styleSheet().contains(QLatin1String("font-size: 0px")));
-    label.setRemSize(4, 2);
-    QCOMPARE(label.maximumSize(), QSize(0, 0));
-    Support::picture(&label);
 }
 
 TAVIK_TEST_MAIN(TestTavikLabel)

@@ -59,9 +59,10 @@ QWidget *CheckSpecimens::sizes()
     auto *green = new TavikCheckBox(tr("Green text"));
     green->setFontColor(Look::Accent.name());
     green->updateStyleSheet();
-    return Look::row({resized(new TavikCheckBox(tr("Large")), 1.5, 2),
-                      resized(new TavikRadioButton(tr("Large")), 1.5, 2),
-                      resized(new TavikCheckBox(tr("Small")), 1, 1), green});
+    return Look::row({live(tr("1.5 and 2 rem"), resized(new TavikCheckBox(tr("Large")), 1.5, 2)),
+                      live(tr("1.5 and 2 rem"), resized(new TavikRadioButton(tr("Large")), 1.5, 2)),
+                      live(tr("1 and 1 rem"), resized(new TavikCheckBox(tr("Small")), 1, 1)),
+                      live(tr("Colour"), green)});
 }
 
 QWidget *CheckSpecimens::states()

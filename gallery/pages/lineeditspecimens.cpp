@@ -50,9 +50,9 @@ QWidget *LineEditSpecimens::types()
 QWidget *LineEditSpecimens::contents()
 {
     const auto field = [](const QString &call, TavikLineEdit::Type type, auto value) {
-        auto *edit = sized(new TavikLineEdit(QString(), type));
+        auto *edit = new TavikLineEdit(QString(), type);
         edit->setContent(value);
-        return Look::captioned(edit, call);
+        return live(call, edit);
     };
     return Look::row(
         {field(QStringLiteral("TwoDecimals, 2.5"), TavikLineEdit::TwoDecimals, 2.5),

@@ -58,7 +58,8 @@ void TavikContainer::addLayout(QLayout *layout)
 
 void TavikContainer::addSpacerItem(QSpacerItem *item)
 {
-    m_layout->addSpacerItem(item);
+    if (item) // the toolkit would crash, while it only warns of a null widget or layout
+        m_layout->addSpacerItem(item);
 }
 
 void TavikContainer::addSpacing(int px)

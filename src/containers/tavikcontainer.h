@@ -51,7 +51,7 @@ public:
     /// Adds a layout at the end and takes it over.
     void addLayout(QLayout *layout);
 
-    /// Adds a spacer at the end and takes it over.
+    /// Adds a spacer at the end and takes it over. Does nothing without one.
     void addSpacerItem(QSpacerItem *item);
 
     /// Adds a fixed space at the end, in pixels.

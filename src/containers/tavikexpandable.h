@@ -62,7 +62,7 @@ public:
     /// Adds a layout to the content and takes it over.
     void addLayout(QLayout *layout);
 
-    /// Adds a spacer to the content and takes it over.
+    /// Adds a spacer to the content and takes it over. Does nothing without one.
     void addSpacerItem(QSpacerItem *item);
 
     /// Present height of the content in rem; between 0 and somewhat above the open height while the

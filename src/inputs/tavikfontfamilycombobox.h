@@ -19,8 +19,8 @@ public:
     /// A chooser with all families in the order of the font database.
     explicit TavikFontFamilyComboBox(QWidget *parent = nullptr);
 
-    /// Fills the list anew, for instance after the application has added fonts. The first family is current
-    /// afterwards.
+    /// Fills the list and its completion anew, for instance after the application has added fonts. The first
+    /// family is current afterwards.
     void initFontFamilies();
 };
 
