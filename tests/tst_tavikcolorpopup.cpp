@@ -1,5 +1,5 @@
+#include "colorsupport.h"
 #include "plaincolor.h"
-#include "support.h"
 
 #include <Tavik/LenConverter>
 #include <Tavik/TavikButton>
@@ -38,6 +38,7 @@ private Q_SLOTS:
     void hexadecimal_data();
     void hexadecimal();
     void controlsComeBeforeFields();
+    void repaintsOnlyWhatChanges();
     void fieldsComeBeforeTheSignal();
     void truncations();
     void greysStayGrey();
@@ -391,6 +392,19 @@ void TestTavikColorPopup::controlsComeBeforeFields()
     QCOMPARE(changed.count(), 3);
     QCOMPARE(edit(popup, A)->text(), QStringLiteral("77"));
     QCOMPARE(int(popup.currentColor().hueF() * 360), 77);
+}
+
+void TestTavikColorPopup::repaintsOnlyWhatChanges()
+{
+    TavikColorPopup popup;
+    popup.showColorPopup(QPoint(200, 10), QColor(10, 20, 30));
+    Support::PaintCounter square(picker(popup));
+    Support::PaintCounter hue(slider(popup, TavikColorSilder::Hue)); // between the square and the fields
+    square.take();
+    hue.take();
+    picker(popup)->updateSelectedColor(50, 50);
+    QCOMPARE(square.take(), 1);
+    QCOMPARE(hue.take(), 0);
 }
 
 void TestTavikColorPopup::fieldsComeBeforeTheSignal()
