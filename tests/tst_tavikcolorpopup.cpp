@@ -107,7 +107,10 @@ QVector<QImage> scenes(bool withPlainShadow)
     if (withPlainShadow)
         Plain::addShadow(&popup);
     QVector<QImage> pictures;
-    const auto take = [&] { pictures.append(Support::picture(&popup)); };
+    const auto take = [&] {
+        QCoreApplication::processEvents(); // the controls move only then
+        pictures.append(Support::picture(&popup));
+    };
     popup.showColorPopup(QPoint(200, -2000), QColor(20, 90, 200));
     take();
     for (int step = 0; step < 5; ++step) {

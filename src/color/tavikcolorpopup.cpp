@@ -383,6 +383,8 @@ void TavikColorPopup::showColorPopup(const QPoint &pos, const QColor &color)
     if (hsv.hue() < 0)
         hsv.setHsv(0, color.saturation(), color.value(), color.alpha());
     setCurrentColor(hsv);
+    m_mainLayout
+        ->activate(); // where the side has changed, the controls are to cast their shadow from there
     if (PopupShadow *own = shadow())
         own->prepare();
     show();
