@@ -104,13 +104,10 @@ void TestColorControls::sliderTypes()
     const TavikColorSilder hue(166, 16);
     QCOMPARE(hue.maximum(), 360);
     QCOMPARE(hue.orientation(), Qt::Horizontal);
-    const QVector<QColor> circle = {QColor::fromHsv(0, 255, 255),
-                                    QColor::fromHsv(60, 255, 255),
-                                    QColor::fromHsv(120, 255, 255),
-                                    QColor::fromHsv(180, 255, 255),
-                                    QColor::fromHsv(240, 255, 255),
-                                    QColor::fromHsv(300, 255, 255),
-                                    QColor(Qt::red)};
+    QVector<QColor> circle;
+    for (const int degrees : {0, 60, 120, 180, 240, 300})
+        circle.append(QColor::fromHsv(degrees, 255, 255));
+    circle.append(Qt::red);
     QCOMPARE(hue.colors(), circle);
 
     const TavikColorSilder alpha(166, 16, TavikColorSilder::Alpha);
