@@ -125,10 +125,13 @@ QBoxLayout *TavikColorPopup::buildSliders()
                                    TavikButton::Outline);
     m_pickButton->setFixedSize(LenConverter::iniRemToPxSz(24, 24));
     WhiteButton::style(m_pickButton);
+    m_pickButton->setAccessibleName(tr("Pick a color from the screen"));
 
     const QSize size = LenConverter::iniRemToPxSz(166, 16);
     m_hueSlider = new TavikColorSilder(size.width(), size.height(), TavikColorSilder::Hue);
     m_alphaSlider = new TavikColorSilder(size.width(), size.height(), TavikColorSilder::Alpha);
+    m_hueSlider->setAccessibleName(tr("Hue"));
+    m_alphaSlider->setAccessibleName(tr("Alpha"));
     auto *sliders = new QVBoxLayout;
     sliders->setSpacing(LenConverter::iniRemToPx(1));
     sliders->addWidget(m_hueSlider);
@@ -160,6 +163,7 @@ QBoxLayout *TavikColorPopup::buildFields(const QVector<Field> &fields)
         column->addWidget(edit);
         column->addWidget(caption);
         column->setAlignment(caption, Qt::AlignHCenter);
+        caption->setBuddy(edit); // by which a screen reader names the field
         row->addLayout(column);
     }
     return row;
