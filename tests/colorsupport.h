@@ -32,6 +32,17 @@ inline void release(QWidget *widget, const QPoint &pos, Qt::MouseButton button =
     mouse(widget, QEvent::MouseButtonRelease, pos, button);
 }
 
+/// The colours of a part of a picture: two, where the checkerboard shows through one colour.
+inline QSet<QRgb> tones(const QImage &picture, const QRect &part)
+{
+    QSet<QRgb> found;
+    for (int y = part.top(); y <= part.bottom(); ++y) {
+        for (int x = part.left(); x <= part.right(); ++x)
+            found.insert(picture.pixel(x, y));
+    }
+    return found;
+}
+
 /// Shows a widget and counts how often it is painted from then on.
 class PaintCounter : public QObject
 {

@@ -1,5 +1,5 @@
+#include "colorsupport.h"
 #include "plaincolor.h"
-#include "support.h"
 
 #include <Tavik/LenConverter>
 #include <Tavik/TavikButton>
@@ -9,6 +9,7 @@
 #include <Tavik/TavikColorWell>
 #include <Tavik/TavikLineEdit>
 
+#include <QAccessible>
 #include <QDialog>
 #include <QLayout>
 #include <QMetaMethod>
@@ -28,6 +29,7 @@ private Q_SLOTS:
     void metaObject();
     void contentsFit_data();
     void contentsFit();
+    void screenReaderNames();
     void placement_data();
     void placement();
     void showsAColour_data();
@@ -38,11 +40,12 @@ private Q_SLOTS:
     void hexadecimal_data();
     void hexadecimal();
     void controlsComeBeforeFields();
+    void repaintsOnlyWhatChanges();
     void fieldsComeBeforeTheSignal();
     void truncations();
     void greysStayGrey();
     void palette();
-    void samplerIsCancelled();
+    void samplerRuns();
     void samplerOverAModalDialog();
     void samplerReleases();
     void deletedInItsOwnSignal();
@@ -106,7 +109,10 @@ QVector<QImage> scenes(bool withPlainShadow)
     if (withPlainShadow)
         Plain::addShadow(&popup);
     QVector<QImage> pictures;
-    const auto take = [&] { pictures.append(Support::picture(&popup)); };
+    const auto take = [&] {
+        QCoreApplication::processEvents(); // the controls move only then
+        pictures.append(Support::picture(&popup));
+    };
     popup.showColorPopup(QPoint(200, -2000), QColor(20, 90, 200));
     take();
     for (int step = 0; step < 5; ++step) {
@@ -149,30 +155,17 @@ Difference difference(const QImage &one, const QImage &other)
 
 void TestTavikColorPopup::metaObject()
 {
-    const char *const names[] = {"colorChanged",
-                                 "colorPopupHide",
-                                 "setCurrentColor",
-                                 "showColorPopup",
-                                 "onHueChanged",
-                                 "onAlphaChanged",
-                                 "onSatValChanged",
-                                 "onHexEditChanged",
-                                 "onREditChanged",
-                                 "onGEditChanged",
-                                 "onBEditChanged",
-                                 "onAEditChanged",
-                                 "onCEditChanged",
-                                 "onMEditChanged",
-                                 "onYEditChanged",
-                                 "onColorWellSelected",
-                                 "onAddColorWellRequested",
-                                 "onClickPickColor",
-                                 "onPickColorChanged"};
+    const QByteArrayList names =
+        QByteArray("colorChanged colorPopupHide setCurrentColor showColorPopup onHueChanged onAlphaChanged "
+                   "onSatValChanged onHexEditChanged onREditChanged onGEditChanged onBEditChanged "
+                   "onAEditChanged onCEditChanged onMEditChanged onYEditChanged onColorWellSelected "
+                   "onAddColorWellRequested onClickPickColor onPickColorChanged")
+            .split(' ');
     const QMetaObject &meta = TavikColorPopup::staticMetaObject;
-    int index = meta.methodOffset();
-    for (const char *name : names)
-        QCOMPARE(meta.method(index++).name(), QByteArray(name));
-    QCOMPARE(index, meta.methodCount());
+    QByteArrayList found;
+    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)
+        found.append(meta.method(i).name());
+    QCOMPARE(found, names);
     QCOMPARE(meta.propertyCount(), meta.propertyOffset());
     QCOMPARE(meta.superClass(), &QWidget::staticMetaObject);
 }
@@ -202,6 +195,18 @@ void TestTavikColorPopup::contentsFit()
              QRect());
     QVERIFY(edit(popup, C)->y() >= edit(popup, R)->geometry().bottom());
     QVERIFY(popup.findChild<TavikColorWell *>()->y() > edit(popup, Y)->geometry().bottom());
+}
+
+void TestTavikColorPopup::screenReaderNames()
+{
+    const TavikColorPopup popup;
+    QStringList names;
+    for (QWidget *child : popup.findChildren<QWidget *>()) {
+        if (child->focusPolicy() != Qt::NoFocus)
+            names.append(QAccessible::queryAccessibleInterface(child)->text(QAccessible::Name));
+    }
+    QCOMPARE(names.join(QLatin1Char('|')),
+             QStringLiteral("Pick a color from the screen|Hue|Alpha|Hex|R|G|B|A|C|M|Y|Add the color"));
 }
 
 void TestTavikColorPopup::placement_data()
@@ -393,6 +398,19 @@ void TestTavikColorPopup::controlsComeBeforeFields()
     QCOMPARE(int(popup.currentColor().hueF() * 360), 77);
 }
 
+void TestTavikColorPopup::repaintsOnlyWhatChanges()
+{
+    TavikColorPopup popup;
+    popup.showColorPopup(QPoint(200, 10), QColor(10, 20, 30));
+    Support::PaintCounter square(picker(popup));
+    Support::PaintCounter hue(slider(popup, TavikColorSilder::Hue)); // between the square and the fields
+    square.take();
+    hue.take();
+    picker(popup)->updateSelectedColor(50, 50);
+    QCOMPARE(square.take(), 1);
+    QCOMPARE(hue.take(), 0);
+}
+
 void TestTavikColorPopup::fieldsComeBeforeTheSignal()
 {
     TavikColorPopup popup;
@@ -443,24 +461,39 @@ void TestTavikColorPopup::palette()
     QCOMPARE(edit(popup, A)->text(), QStringLiteral("40"));
 }
 
-void TestTavikColorPopup::samplerIsCancelled()
+/// A run that is cancelled and one that picks, with what they say of the popup's hiding.
+void TestTavikColorPopup::samplerRuns()
 {
     TavikColorPopup popup;
-    popup.showColorPopup(QPoint(200, 10), Qt::red);
+    popup.showColorPopup(QPoint(200, 10), QColor(255, 0, 0, 90));
     const QSignalSpy changed(&popup, &TavikColorPopup::colorChanged);
     const QSignalSpy hidden(&popup, &TavikColorPopup::colorPopupHide);
-    popup.hide();
-    QCOMPARE(hidden.count(), 0); // no sampler yet
-    popup.show();
     pickButton(popup)->click();
-    QVERIFY(sampler());
+    QVERIFY(!popup.isVisible()); // closed by the sampler's window, before that was known
+    QCOMPARE(hidden.count(), 0);
     QTest::keyClick(sampler(), Qt::Key_Escape);
     QVERIFY(!sampler());
     QCOMPARE(changed.count(), 0);
-    QVERIFY(popup.currentColor() == QColor(Qt::red).toHsv());
+    QCOMPARE(popup.currentColor().rgba(), qRgba(255, 0, 0, 90));
+
+    popup.show();
+    pickButton(popup)->click(); // the cancelled one is still known while the popup closes
+    QCOMPARE(hidden.count(), 1);
+    const QPointer<QWidget> running = sampler();
     popup.show();
     popup.hide();
-    QVERIFY(hidden.count() >= 1); // the cancelled one is still known
+    QCOMPARE(hidden.count(), 2);
+    // As if it had been pressed: there is no picture of a headless screen.
+    QMetaObject::invokeMethod(running, "screenColor", Q_ARG(QColor, QColor(1, 2, 3)));
+    QCOMPARE(changed.count(), 1);
+    QCOMPARE(changed.last().first().value<QColor>(), QColor(1, 2, 3));
+    QCOMPARE(texts(popup), words("010203 1 2 3 255 254 253 252"));
+    QCOMPARE(hidden.count(), 3);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(!running);
+    popup.show();
+    popup.hide();
+    QCOMPARE(hidden.count(), 3);
 }
 
 void TestTavikColorPopup::samplerOverAModalDialog()

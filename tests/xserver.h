@@ -20,6 +20,7 @@ public:
             qFatal("Xvfb is needed (Debian package xvfb)");
         qputenv("DISPLAY", ':' + m_process.readLine().trimmed());
         qputenv("QT_QPA_PLATFORM", "xcb");
+        qputenv("QT_XCB_GL_INTEGRATION", "none"); // nothing here needs it, and drivers leak
     }
 
     ~XServer()

@@ -17,8 +17,7 @@ void ColoursPage::addWiring()
     addExample(
         Whole, tr("One popup for all"),
         tr("Each control only asks for a popup. The answer goes to the one that asked last; below stands "
-           "what all "
-           "of them emit."),
+           "what all of them emit."),
         ColourSpecimens::wired(),
         QStringLiteral(
             "connect(fill, &TavikColorButton::showPopup, popup, &TavikColorPopup::showColorPopup);\n"

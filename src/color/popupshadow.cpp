@@ -1,8 +1,14 @@
 #include "popupshadow_p.h"
 
 #include <QPainter>
+#include <QWidget>
 
 namespace {
+
+QImage picture(QWidget *widget)
+{
+    return widget->grab().toImage().convertToFormat(QImage::Format_ARGB32_Premultiplied);
+}
 
 /// The opacity of what lies under a pixel of `over`, so that both together have the opacity `both`.
 int alphaBelow(int over, int both)
@@ -12,54 +18,39 @@ int alphaBelow(int over, int both)
 
 } // namespace
 
+PopupShadow::PopupShadow(QWidget *widget)
+    : QGraphicsDropShadowEffect(widget)
+    , m_widget(widget)
+{
+    setEnabled(false);
+}
+
 void PopupShadow::outlineChanged()
 {
     m_shadow = QImage();
-    update();
 }
 
-void PopupShadow::sourceChanged(ChangeFlags flags)
+void PopupShadow::prepare()
 {
-    if (flags & (SourceAttached | SourceDetached | SourceBoundingRectChanged))
-        m_shadow = QImage();
-    QGraphicsDropShadowEffect::sourceChanged(flags);
-}
+    if (!m_shadow.isNull() && qFuzzyCompare(m_shadow.devicePixelRatio(), m_widget->devicePixelRatioF()))
+        return;
+    m_shadow = QImage();
+    const QImage over = picture(m_widget);
+    setEnabled(true);
+    QImage shadow = picture(m_widget);
+    setEnabled(false);
 
-void PopupShadow::draw(QPainter *painter)
-{
-    const QRectF bounds = painter->worldTransform().mapRect(boundingRectFor(sourceBoundingRect()));
-    QPoint pos = bounds.toAlignedRect().topLeft();
-    if (m_shadow.isNull() ||
-        !qFuzzyCompare(m_shadow.devicePixelRatio(), painter->device()->devicePixelRatioF())) {
-        const QPixmap source = sourcePixmap(Qt::DeviceCoordinates, &pos, PadToEffectiveBoundingRect);
-        m_shadow = makeShadow(source, pos);
-    }
-    const QTransform transform = painter->worldTransform();
-    painter->setWorldTransform(QTransform());
-    painter->drawImage(pos, m_shadow);
-    painter->setWorldTransform(transform);
-    drawSource(painter);
-}
-
-QImage PopupShadow::makeShadow(const QPixmap &source, const QPoint &sourcePos)
-{
-    QImage shadow(source.size(), QImage::Format_ARGB32_Premultiplied);
-    shadow.setDevicePixelRatio(source.devicePixelRatio());
-    shadow.fill(Qt::transparent);
-    QPainter painter(&shadow);
-    // The toolkit's effect draws at the source's place, whatever the world transformation is.
-    const QSize size = source.size() / source.devicePixelRatio();
-    painter.setWindow(QRect(sourcePos, size));
-    QGraphicsDropShadowEffect::draw(&painter);
-    painter.end();
-
-    // Shadow and source lie over each other now; take the source off.
-    const QImage over = source.toImage().convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    // Shadow and widget lie over each other now; take the widget off.
     for (int y = 0; y < shadow.height(); ++y) {
         auto *line = reinterpret_cast<QRgb *>(shadow.scanLine(y));
         const auto *overLine = reinterpret_cast<const QRgb *>(over.constScanLine(y));
         for (int x = 0; x < shadow.width(); ++x)
             line[x] = qRgba(0, 0, 0, alphaBelow(qAlpha(overLine[x]), qAlpha(line[x])));
     }
-    return shadow;
+    m_shadow = shadow;
+}
+
+void PopupShadow::paint(QPainter *painter) const
+{
+    painter->drawImage(0, 0, m_shadow);
 }

@@ -4,27 +4,33 @@
 #include <QGraphicsDropShadowEffect>
 #include <QImage>
 
+class QWidget;
+
 /// A drop shadow that is blurred once, for a widget whose outline rarely changes.
 ///
-/// The toolkit's effect renders the whole widget and blurs it anew whenever a child repaints. This one keeps the
-/// shadow and lets the widget draw only what is dirty over it. Antialiased edges may differ by two levels.
+/// Whenever a child repaints, the toolkit's effect blurs the whole widget anew, and any effect makes all that
+/// lies between two dirty children repaint too. So this one works only while it takes a picture of the shadow,
+/// and the widget paints that picture under itself. Antialiased edges may differ by two levels.
 class PopupShadow : public QGraphicsDropShadowEffect
 {
     Q_OBJECT
 
 public:
-    using QGraphicsDropShadowEffect::QGraphicsDropShadowEffect;
+    /// A shadow for a widget, which still has to be given it by setGraphicsEffect().
+    explicit PopupShadow(QWidget *widget);
 
-    /// To be called when the widget's outline has changed: the next repaint makes the shadow anew.
+    /// To be called when the widget's outline has changed.
     void outlineChanged();
 
-protected:
-    void draw(QPainter *painter) override;
-    void sourceChanged(ChangeFlags flags) override;
+    /// Makes the picture of the shadow, unless there is one for the outline and the widget's screen. Not to be
+    /// called while the widget is painted.
+    void prepare();
+
+    /// Paints the picture; to be called by the widget's paint event before all else.
+    void paint(QPainter *painter) const;
 
 private:
-    QImage makeShadow(const QPixmap &source, const QPoint &sourcePos);
-
+    QWidget *m_widget;
     QImage m_shadow; // null while it has to be made
 };
 

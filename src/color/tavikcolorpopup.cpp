@@ -76,11 +76,11 @@ void TavikColorPopup::buildWindow()
     setAttribute(Qt::WA_TranslucentBackground, true);
     setFixedSize(LenConverter::iniRemToPxSz(208 + 2 * m_shadowRadius, 388 + 2 * m_shadowRadius));
 
-    auto *shadow = new PopupShadow(this);
-    shadow->setOffset(QPointF(0, 0));
-    shadow->setColor(QColor(Qt::black));
-    shadow->setBlurRadius(m_shadowRadius);
-    setGraphicsEffect(shadow);
+    auto *effect = new PopupShadow(this);
+    effect->setOffset(QPointF(0, 0));
+    effect->setColor(QColor(Qt::black));
+    effect->setBlurRadius(m_shadowRadius);
+    setGraphicsEffect(effect);
 
     m_mainLayout = new QVBoxLayout;
     m_mainLayout->setSpacing(0);
@@ -127,10 +127,13 @@ QBoxLayout *TavikColorPopup::buildSliders()
     m_pickButton->setAccessibleName(tr("Pick a color from the screen"));
     m_pickButton->setFixedSize(LenConverter::iniRemToPxSz(24, 24));
     WhiteButton::style(m_pickButton);
+    m_pickButton->setAccessibleName(tr("Pick a color from the screen"));
 
     const QSize size = LenConverter::iniRemToPxSz(166, 16);
     m_hueSlider = new TavikColorSilder(size.width(), size.height(), TavikColorSilder::Hue);
     m_alphaSlider = new TavikColorSilder(size.width(), size.height(), TavikColorSilder::Alpha);
+    m_hueSlider->setAccessibleName(tr("Hue"));
+    m_alphaSlider->setAccessibleName(tr("Alpha"));
     auto *sliders = new QVBoxLayout;
     sliders->setSpacing(LenConverter::iniRemToPx(1));
     sliders->addWidget(m_hueSlider);
@@ -163,6 +166,7 @@ QBoxLayout *TavikColorPopup::buildFields(const QVector<Field> &fields)
         column->addWidget(edit);
         column->addWidget(caption);
         column->setAlignment(caption, Qt::AlignHCenter);
+        caption->setBuddy(edit); // by which a screen reader names the field
         row->addLayout(column);
     }
     return row;
@@ -386,7 +390,17 @@ void TavikColorPopup::showColorPopup(const QPoint &pos, const QColor &color)
     if (hsv.hue() < 0)
         hsv.setHsv(0, color.saturation(), color.value(), color.alpha());
     setCurrentColor(hsv);
+    m_mainLayout
+        ->activate(); // where the side has changed, the controls are to cast their shadow from there
+    if (PopupShadow *own = shadow())
+        own->prepare();
     show();
+}
+
+/// Null if the application has set another effect.
+PopupShadow *TavikColorPopup::shadow() const
+{
+    return qobject_cast<PopupShadow *>(graphicsEffect());
 }
 
 void TavikColorPopup::adjustPosition()
@@ -427,14 +441,15 @@ void TavikColorPopup::initDrawElements(bool arrowUp)
     }
     const int lineY = m + separatorOffset + (arrowUp ? a : 0);
     m_lines = {QLine(m, lineY, width() - 1 - m, lineY)};
-    if (auto *shadow =
-            qobject_cast<PopupShadow *>(graphicsEffect())) // the application may have set another
-        shadow->outlineChanged();
+    if (PopupShadow *own = shadow())
+        own->outlineChanged();
 }
 
 void TavikColorPopup::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
+    if (const PopupShadow *own = shadow())
+        own->paint(&painter);
     painter.setRenderHint(QPainter::Antialiasing, true);
     painter.setPen(QPen(QBrush(QColor(0xd3, 0xd3, 0xd3)), 1.0, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.setBrush(QColor(Qt::white));

@@ -8,6 +8,7 @@
 
 #include <Tavik/tavik_export.h>
 
+class PopupShadow;
 class QBoxLayout;
 class QVBoxLayout;
 class Screenshot;
@@ -114,6 +115,7 @@ private:
     void updateEditValues();
     void followField();
 
+    PopupShadow *shadow() const;
     void adjustPosition();
     void initDrawElements(bool arrowUp);
 
