@@ -9,7 +9,6 @@
 #include <Tavik/TavikColorWell>
 #include <Tavik/TavikLineEdit>
 
-#include <QAccessible>
 #include <QDialog>
 #include <QLayout>
 #include <QMetaMethod>
@@ -29,7 +28,6 @@ private Q_SLOTS:
     void metaObject();
     void contentsFit_data();
     void contentsFit();
-    void screenReaderNames();
     void placement_data();
     void placement();
     void showsAColour_data();
@@ -195,18 +193,6 @@ void TestTavikColorPopup::contentsFit()
              QRect());
     QVERIFY(edit(popup, C)->y() >= edit(popup, R)->geometry().bottom());
     QVERIFY(popup.findChild<TavikColorWell *>()->y() > edit(popup, Y)->geometry().bottom());
-}
-
-void TestTavikColorPopup::screenReaderNames()
-{
-    const TavikColorPopup popup;
-    QStringList names;
-    for (QWidget *child : popup.findChildren<QWidget *>()) {
-        if (child->focusPolicy() != Qt::NoFocus)
-            names.append(QAccessible::queryAccessibleInterface(child)->text(QAccessible::Name));
-    }
-    QCOMPARE(names.join(QLatin1Char('|')),
-             QStringLiteral("Pick a color from the screen|Hue|Alpha|Hex|R|G|B|A|C|M|Y|Add the color"));
 }
 
 void TestTavikColorPopup::placement_data()

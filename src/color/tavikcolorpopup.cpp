@@ -124,7 +124,6 @@ QBoxLayout *TavikColorPopup::buildSliders()
 {
     m_pickButton = new TavikButton(QIcon(QStringLiteral(":/Color/images/color_picker.svg")), QSizeF(-1, -1),
                                    TavikButton::Outline);
-    m_pickButton->setAccessibleName(tr("Pick a color from the screen"));
     m_pickButton->setFixedSize(LenConverter::iniRemToPxSz(24, 24));
     WhiteButton::style(m_pickButton);
     m_pickButton->setAccessibleName(tr("Pick a color from the screen"));
@@ -132,8 +131,6 @@ QBoxLayout *TavikColorPopup::buildSliders()
     const QSize size = LenConverter::iniRemToPxSz(166, 16);
     m_hueSlider = new TavikColorSilder(size.width(), size.height(), TavikColorSilder::Hue);
     m_alphaSlider = new TavikColorSilder(size.width(), size.height(), TavikColorSilder::Alpha);
-    m_hueSlider->setAccessibleName(tr("Hue"));
-    m_alphaSlider->setAccessibleName(tr("Alpha"));
     auto *sliders = new QVBoxLayout;
     sliders->setSpacing(LenConverter::iniRemToPx(1));
     sliders->addWidget(m_hueSlider);
@@ -161,12 +158,11 @@ QBoxLayout *TavikColorPopup::buildFields(const QVector<Field> &fields)
         this->*field.edit = edit;
 
         auto *caption = new TavikLabel(field.caption, TavikLabel::Assist);
-        caption->setBuddy(edit);
+        caption->setBuddy(edit); // by which a screen reader names the field
         auto *column = new QVBoxLayout;
         column->addWidget(edit);
         column->addWidget(caption);
         column->setAlignment(caption, Qt::AlignHCenter);
-        caption->setBuddy(edit); // by which a screen reader names the field
         row->addLayout(column);
     }
     return row;

@@ -84,6 +84,5 @@ void TavikColorWell::buildAddButton()
     m_addButton->setGeometry(m_rects.last());
     m_addButton->setBorderRadius(QStringLiteral("0"));
     WhiteButton::style(m_addButton);
-    m_addButton->setAccessibleName(tr("Add the color"));
     connect(m_addButton, &QAbstractButton::clicked, this, &TavikColorWell::addColorRequested);
 }
