@@ -19,7 +19,6 @@ is_there() {
         libbenchmark-dev) pkg-config --exists benchmark ;;
         doxygen-awesome-css) [ -d /usr/share/doxygen-awesome-css ] ;;
         qttools5-dev) [ -d "$(qmake -query QT_INSTALL_LIBS)/cmake/Qt5LinguistTools" ] ;;
-        qttools5-dev-tools) command -v "$(qmake -query QT_INSTALL_BINS)/lrelease" ;;
         fonts-inter) fc-list | grep -q Inter ;;
         fonts-jetbrains-mono) fc-list | grep -q JetBrains ;;
         *) command -v "$1" ;;
