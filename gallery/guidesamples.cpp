@@ -41,7 +41,7 @@ QWidget *GuideSamples::start()
     auto *window = new TavikContainer(Vertical);
     auto *name = new TavikLineEdit(tr(QT_TRANSLATE_NOOP("GuideSamples", "Your name")));
     name->setText(QStringLiteral("Ada"));
-    auto *button = new TavikButton(tr(QT_TRANSLATE_NOOP("GuideSamples", "Hello, Ada!")));
+    auto *button = new TavikButton(tr(QT_TRANSLATE_NOOP("GuideSamples", "Hello, Ada")));
     window->addWidget(name);
     window->addWidget(button);
     window->setFixedSize(LenConverter::remToPx(20), LenConverter::remToPx(7));
