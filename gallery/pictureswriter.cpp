@@ -50,7 +50,7 @@ bool PicturesWriter::writeSamples() const
         widget->setAutoFillBackground(true);
         widget->setBackgroundRole(QPalette::Base);
         widget->adjustSize();
-        if (!write(*widget, sample.className.toLower() + QStringLiteral(".png")))
+        if (!write(*widget, sample.name.toLower() + QStringLiteral(".png")))
             return false;
     }
     Frame frame(QStringLiteral("buttons"));

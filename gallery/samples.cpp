@@ -1,5 +1,6 @@
 #include "samples.h"
 
+#include "guidesamples.h"
 #include "look.h"
 #include "ownpictures.h"
 #include "pages/colourspecimens.h"
@@ -234,6 +235,11 @@ const QVector<Sample> &sampleTable()
         {QStringLiteral("TavikColorSilder"), small<TavikColorSilder>},
         {QStringLiteral("TavikColorWell"), small<TavikColorWell>},
         {QStringLiteral("TavikGradientBar"), small<TavikGradientBar>},
+        {QStringLiteral("guide-start"), GuideSamples::start},
+        {QStringLiteral("guide-lengths"), GuideSamples::lengths},
+        {QStringLiteral("guide-styling"), GuideSamples::styling},
+        {QStringLiteral("guide-wiring"), GuideSamples::wiring},
+        {QStringLiteral("guide-right-to-left"), GuideSamples::rightToLeft},
     };
     return table;
 }

@@ -6,14 +6,14 @@
 
 class QWidget;
 
-/// A compact specimen of one class, for a table of all controls.
+/// A compact specimen of one class, for a table of all controls, or another picture of the guide.
 struct Sample
 {
-    QString className;
+    QString name; // in any case: the file's is lower
     QWidget *(*make)();
 };
 
-/// One sample a class, at most about 25 rem wide.
+/// One sample a class, at most about 25 rem wide, and the guide's own pictures.
 const QVector<Sample> &sampleTable();
 
 #endif

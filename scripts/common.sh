@@ -17,6 +17,8 @@ is_there() {
         qtbase5-dev) pkg-config --exists 'Qt5Widgets >= 5.15' ;;
         libqt5svg5) [ -e "$(qmake -query QT_INSTALL_PLUGINS)/imageformats/libqsvg.so" ] ;;
         libbenchmark-dev) pkg-config --exists benchmark ;;
+        doxygen-awesome-css) [ -d /usr/share/doxygen-awesome-css ] ;;
+        qttools5-dev) [ -d "$(qmake -query QT_INSTALL_LIBS)/cmake/Qt5LinguistTools" ] ;;
         fonts-inter) fc-list | grep -q Inter ;;
         fonts-jetbrains-mono) fc-list | grep -q JetBrains ;;
         *) command -v "$1" ;;

@@ -1,6 +1,6 @@
 # The package as its users meet it. Installs the library into a scratch prefix, built without anything that
 # only the tests need, and then builds and runs against it: a small consumer by find_package, the same one
-# by pkg-config and by add_subdirectory, and the application that the README shows, word for word.
+# by pkg-config and by add_subdirectory, and the code that README and guide show, word for word.
 cmake_minimum_required(VERSION 3.18)
 
 set(prefix "${SCRATCH}/prefix")
@@ -34,6 +34,11 @@ file(GLOB_RECURSE installed RELATIVE "${prefix}" "${prefix}/*")
 if(NOT installed MATCHES "libTavik\\.so\\.0\\.1(;|$)" OR installed MATCHES "_p\\.h")
     message(FATAL_ERROR "Wrong files were installed: ${installed}")
 endif()
+foreach(language IN ITEMS de fr zh_CN)
+    if(NOT "share/tavik/translations/tavik_${language}.qm" IN_LIST installed)
+        message(FATAL_ERROR "The translation ${language} was not installed: ${installed}")
+    endif()
+endforeach()
 file(GLOB library "${prefix}/*/libTavik.so" "${prefix}/*/*/libTavik.so")
 run(nm -DC --defined-only "${library}")
 if(output MATCHES "Sheet::" OR NOT output MATCHES "LenConverter::m_rem")
@@ -42,7 +47,9 @@ endif()
 
 configure_and_build(by-find-package "${consumer}" -D CMAKE_PREFIX_PATH=${prefix} -D WAY=find_package)
 run("${SCRATCH}/by-find-package/consumer")
-configure_and_build(by-add-subdirectory "${consumer}" -D TAVIK_SOURCE=${SOURCE} -D WAY=add_subdirectory)
+# Qt's Linguist tools are no condition.
+configure_and_build(by-add-subdirectory "${consumer}" -D TAVIK_SOURCE=${SOURCE} -D WAY=add_subdirectory
+    -D CMAKE_DISABLE_FIND_PACKAGE_Qt5LinguistTools=ON)
 run("${SCRATCH}/by-add-subdirectory/consumer")
 
 # A version that promises another interface must not be taken.
@@ -62,31 +69,4 @@ separate_arguments(flags UNIX_COMMAND "${output}")
 run(c++ -std=c++17 -fPIC "${consumer}/main.cpp" -o "${SCRATCH}/by-pkg-config" ${flags})
 run("${SCRATCH}/by-pkg-config")
 
-# readme_block(<heading> <language> <file>): the first block in that language under a heading of the README.
-file(READ "${SOURCE}/README.md" readme)
-function(readme_block heading language file)
-    string(FIND "${readme}" "\n## ${heading}\n" begin)
-    if(begin EQUAL -1)
-        message(FATAL_ERROR "The README has no heading '${heading}'")
-    endif()
-    string(SUBSTRING "${readme}" ${begin} -1 rest)
-    set(fence "```${language}\n")
-    string(LENGTH "${fence}" fence_length)
-    string(FIND "${rest}" "${fence}" begin)
-    math(EXPR begin "${begin} + ${fence_length}")
-    string(SUBSTRING "${rest}" ${begin} -1 rest)
-    string(FIND "${rest}" "```" end)
-    string(SUBSTRING "${rest}" 0 ${end} block)
-    file(WRITE "${file}" "${block}")
-endfunction()
-readme_block("Use it in your application" cmake "${SCRATCH}/readme/CMakeLists.txt")
-readme_block("Use it in your application" cpp "${SCRATCH}/readme/main.cpp")
-readme_block("One popup for every colour" cpp "${SCRATCH}/readme/wiring.cpp")
-file(APPEND "${SCRATCH}/readme/CMakeLists.txt" "target_sources(app PRIVATE wiring.cpp)\n")
-configure_and_build(readme-application "${SCRATCH}/readme" -D CMAKE_PREFIX_PATH=${prefix})
-# It shows a window and waits for its user: to be stopped from outside is what it does when all is well.
-execute_process(COMMAND "${SCRATCH}/readme-application/app" TIMEOUT 2
-    RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output)
-if(NOT result MATCHES "timeout")
-    message(FATAL_ERROR "The README's application ended by itself (${result}):\n${output}")
-endif()
+include("${CMAKE_CURRENT_LIST_DIR}/docblocks.cmake")

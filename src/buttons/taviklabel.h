@@ -47,7 +47,7 @@ public:
     /// Text colour.
     QString color() const;
 
-    /// Sets the text colour and restyles. A disabled label is #e0e0e0 whatever is set here.
+    /// Sets the text colour and restyles. A disabled label is "#e0e0e0" whatever is set here.
     void setColor(const QString &color);
 
     /// Sets the font size in rem and restyles; the toolkit warns of a size that is not above 0.

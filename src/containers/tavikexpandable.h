@@ -28,6 +28,7 @@ class TavikLabel;
 class TAVIK_EXPORT TavikExpandable : public QWidget
 {
     Q_OBJECT
+    /// Present height of the content in rem: what the animation animates.
     Q_PROPERTY(double m_remExpandHeight READ remExpandHeight WRITE setRemExpandHeight NOTIFY
                    remExpandHeightChanged)
 

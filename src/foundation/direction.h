@@ -1,6 +1,9 @@
 #ifndef TAVIK_DIRECTION_H
 #define TAVIK_DIRECTION_H
 
+/// \file
+/// The direction of boxes and button groups.
+
 /// The way in which a container or a button group lines up what it holds.
 ///
 /// Unscoped, so that both spellings work:

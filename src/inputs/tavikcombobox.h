@@ -26,8 +26,8 @@ class TAVIK_EXPORT TavikComboBox : public RemSized<QComboBox>
 public:
     /// Whether text can be typed. A value outside acts as ReadOnly.
     enum Type : int {
-        ReadOnly = 0,
-        Editable = 1,
+        ReadOnly = 0, ///< Choosing from the list alone.
+        Editable = 1, ///< A field to type into beside the list.
     };
 
     /// An empty combo box.

@@ -45,12 +45,12 @@ class TAVIK_EXPORT TavikLineEdit : public RemSized<QLineEdit>
 public:
     /// What may be typed. A value outside acts as Text.
     enum Type : int {
-        Text = 0,
-        Integer = 1,
-        SignedDigits = 2,
-        OneDecimal = 3,
-        TwoDecimals = 4,
-        HexDigits = 5,
+        Text = 0,         ///< Anything.
+        Integer = 1,      ///< A whole number in a range.
+        SignedDigits = 2, ///< An optional minus and digits.
+        OneDecimal = 3,   ///< A number with one decimal.
+        TwoDecimals = 4,  ///< A number with two decimals.
+        HexDigits = 5,    ///< Up to six hexadecimal digits.
     };
 
     /// An empty field with a placeholder, a type and an alignment.

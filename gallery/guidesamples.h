@@ -1,0 +1,26 @@
+#ifndef GALLERY_GUIDESAMPLES_H
+#define GALLERY_GUIDESAMPLES_H
+
+class QWidget;
+
+/// What the guide in docs/ shows beside the single controls.
+namespace GuideSamples {
+
+/// The window of the guide's first program.
+QWidget *start();
+
+/// The same row of controls at each number of pixels per rem.
+QWidget *lengths();
+
+/// Buttons in their own look, changed and not yet restyled, and restyled.
+QWidget *styling();
+
+/// Two controls that ask for a colour, and the popup below the first.
+QWidget *wiring();
+
+/// A form from right to left.
+QWidget *rightToLeft();
+
+} // namespace GuideSamples
+
+#endif
