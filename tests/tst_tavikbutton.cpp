@@ -121,6 +121,7 @@ void TestTavikButton::constructors()
     const TavikButton text(tr("OK"), &parent);
     QCOMPARE(text.parentWidget(), &parent);
     QCOMPARE(text.text(), QStringLiteral("OK"));
+    QCOMPARE(text.color(), QStringLiteral("#ffffff"));
     const TavikButton typed(tr("OK"), TavikButton::Link, &parent);
     QCOMPARE(typed.parentWidget(), &parent);
     QCOMPARE(typed.color(), QStringLiteral("#108ee9"));

@@ -47,6 +47,7 @@ void TestTavikLabel::constructors()
     const TavikLabel text(tr("text"), &parent);
     QCOMPARE(text.parentWidget(), &parent);
     QCOMPARE(text.text(), QStringLiteral("text"));
+    QCOMPARE(text.color(), QStringLiteral("#404040"));
     const TavikLabel typed(tr("text"), TavikLabel::Assist, &parent);
     QCOMPARE(typed.parentWidget(), &parent);
     QCOMPARE(typed.color(), QStringLiteral("#909090"));
