@@ -28,16 +28,19 @@ QStringList TavikSelfCheck::problems()
 {
     QStringList found;
     if (!canDrawSvg())
-        found << tr("The SVG image format is missing: check marks, arrows and icons are not drawn. "
-                    "Install the toolkit's SVG plugin.");
+        found << QStringLiteral(
+            "The SVG image format is missing: check marks, arrows and icons are not drawn. "
+            "Install the toolkit's SVG plugin.");
     if (LenConverter::rem() == 0)
-        found << tr("LenConverter::initRem() was not called: every length is 0 pixels.");
+        found << QStringLiteral("LenConverter::initRem() was not called: every length is 0 pixels.");
     if (QImage(QStringLiteral(":/Color/images/alpha_texture.png")).isNull())
-        found << tr("The library's resources cannot be read: its pictures are not drawn.");
+        found << QStringLiteral("The library's resources cannot be read: its pictures are not drawn.");
     QScreen *screen = QGuiApplication::primaryScreen();
     if (!screen)
-        found << tr("There is no primary screen: lengths cannot be chosen, and popups cannot be placed.");
+        found << QStringLiteral(
+            "There is no primary screen: lengths cannot be chosen, and popups cannot be placed.");
     else if (!canGrab(screen))
-        found << tr("The platform gives no picture of the screen: the screen sampler finds no colors.");
+        found << QStringLiteral(
+            "The platform gives no picture of the screen: the screen sampler finds no colors.");
     return found;
 }

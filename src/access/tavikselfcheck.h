@@ -1,7 +1,6 @@
 #ifndef TAVIK_TAVIKSELFCHECK_H
 #define TAVIK_TAVIKSELFCHECK_H
 
-#include <QCoreApplication>
 #include <QStringList>
 
 #include <Tavik/tavik_export.h>
@@ -18,10 +17,8 @@
 /// None of it keeps the controls from running, and nothing here reports anything by itself.
 class TAVIK_EXPORT TavikSelfCheck
 {
-    Q_DECLARE_TR_FUNCTIONS(TavikSelfCheck)
-
 public:
-    /// The findings as sentences for a developer, empty when all is well. Found are: no plugin for SVG
+    /// The findings as English sentences for a developer, empty when all is well. Found are: no plugin for SVG
     /// pictures, LenConverter::initRem() not called, resources of the library that can't be read, no
     /// primary screen, and a platform that gives no picture of its screen, as Wayland. Without a
     /// QGuiApplication there is no screen either. Takes a picture of one pixel of the screen.
