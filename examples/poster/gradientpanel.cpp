@@ -33,7 +33,7 @@ GradientPanel::GradientPanel(Poster *poster, QWidget *parent)
     , m_bar(new TavikGradientBar(RemRowWidth, 2.4))
     , m_dial(new TavikDial)
     , m_angle(new TavikSpinbox(0, 359))
-    , m_slider(new TavikSlider(18.0, 3))
+    , m_slider(new TavikSlider(17.0, 3))
     , m_opacity(new TavikSpinbox(0, 100))
     , m_styleSheet(new TavikLineEdit)
     , m_css(new TavikLineEdit)
@@ -68,7 +68,7 @@ void GradientPanel::buildRows()
 void GradientPanel::addText(const QString &name, TavikLineEdit *field)
 {
     field->setReadOnly(true);
-    field->setRemSize(19, Look::FieldHeight);
+    field->setRemSize(18, Look::FieldHeight);
     TavikButton *copy = Look::button(tr("Copy"), 6);
     connect(copy, &QPushButton::clicked, field,
             [field] { QGuiApplication::clipboard()->setText(field->text()); });

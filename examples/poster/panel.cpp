@@ -10,6 +10,9 @@ namespace {
 
 constexpr double inset = 1.2; // rem
 
+// What the panel's borders and paddings take of its width, and of its height, in pixels.
+constexpr int frame = 8;
+
 } // namespace
 
 Panel::Panel(const QString &title, Poster *poster, QWidget *parent)
@@ -20,8 +23,13 @@ Panel::Panel(const QString &title, Poster *poster, QWidget *parent)
     setRemWidth(RemWidth);
     m_rows->setContentMargin(LenConverter::remToPx(inset));
     m_rows->setSpacing(Look::Gap);
-    m_rows->setFixedWidth(LenConverter::remToPx(RemWidth) - 8); // what borders and paddings leave
+    m_rows->setFixedWidth(LenConverter::remToPx(RemWidth) - frame);
     addWidget(m_rows);
+}
+
+int Panel::rowsWidth()
+{
+    return LenConverter::remToPx(RemWidth) - frame - 2 * LenConverter::remToPx(inset);
 }
 
 void Panel::addRow(const QString &name, std::initializer_list<QWidget *> widgets)
@@ -30,7 +38,8 @@ void Panel::addRow(const QString &name, std::initializer_list<QWidget *> widgets
     row->removeMargins();
     row->setSpacing(Look::Gap);
     TavikLabel *label = Look::label(name);
-    label->setRemWidth(RemWidth - RemRowWidth - 2 * inset - Look::Gap - 0.6);
+    label->setFixedWidth(rowsWidth() - LenConverter::remToPx(RemRowWidth) -
+                         LenConverter::remToPx(Look::Gap));
     row->addWidget(label);
     for (QWidget *widget : widgets)
         row->addWidget(widget);
@@ -45,7 +54,7 @@ void Panel::addWide(QWidget *widget)
 
 void Panel::finish(bool isOpen)
 {
-    updateExpandedHeight(LenConverter::pxToRem(m_rows->sizeHint().height() + 8));
+    updateExpandedHeight(LenConverter::pxToRem(m_rows->sizeHint().height() + frame));
     if (isOpen)
         expand();
     connect(m_poster, &Poster::changed, this, [this] { follow(m_poster->settings()); });

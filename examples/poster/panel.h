@@ -19,7 +19,10 @@ class Panel : public TavikExpandable
 public:
     /// Width of a panel, and of what a row holds at most beside its name, in rem.
     static constexpr double RemWidth = 36;
-    static constexpr double RemRowWidth = 26;
+    static constexpr double RemRowWidth = 25;
+
+    /// What the rows are wide, in pixels.
+    static int rowsWidth();
 
     Panel(const QString &title, Poster *poster, QWidget *parent = nullptr);
 

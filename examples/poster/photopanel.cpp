@@ -2,6 +2,7 @@
 
 #include "look.h"
 
+#include <QScrollBar>
 #include <QSignalBlocker>
 
 #include <Tavik/LenConverter>
@@ -11,11 +12,19 @@
 #include <Tavik/TavikImageList>
 #include <Tavik/TavikRadioButton>
 
+namespace {
+
+// What stands between thumbnails, and around each of them with that, in pixels.
+constexpr int tileSpacing = 3;
+constexpr int tileFrame = 11;
+
+} // namespace
+
 PhotoPanel::PhotoPanel(Poster *poster, QWidget *parent)
     : Panel(tr("Photograph"), poster, parent)
     , m_list(new TavikImageList)
     , m_photograph(new TavikRadioButton(tr("Photograph")))
-    , m_plain(new TavikRadioButton(tr("Plain colour")))
+    , m_plain(new TavikRadioButton(tr("Colour")))
     , m_ground(new TavikColorButton)
 {
     buildList();
@@ -41,10 +50,13 @@ PhotoPanel::PhotoPanel(Poster *poster, QWidget *parent)
 
 void PhotoPanel::buildList()
 {
-    m_list->setIconRemSz(9.6, 6.4); // before the first image
+    // Three in a row, and two rows before the list scrolls.
+    const int bar = m_list->verticalScrollBar()->sizeHint().width();
+    const double width = LenConverter::pxToRem((Panel::rowsWidth() - bar) / 3 - tileFrame);
+    m_list->setIconRemSz(width, width * 2 / 3); // before the first image
     m_list->setSelectionMode(QAbstractItemView::SingleSelection);
-    m_list->setSpacing(LenConverter::remToPx(0.2));
-    m_list->setFixedHeight(LenConverter::remToPx(15.4));
+    m_list->setSpacing(tileSpacing);
+    m_list->setFixedHeight(2 * (m_list->iconSize().height() + tileFrame) + tileSpacing);
     const QStringList names = Photograph::ownNames();
     for (const QString &name : names)
         addTile(Photograph(name));

@@ -74,6 +74,7 @@ QWidget *PosterWindow::buildStage()
     footer->setFixedHeight(LenConverter::remToPx(2.5));
     footer->setAlignment(Qt::AlignCenter);
     footer->setAutoFillBackground(true);
+    footer->setBackgroundRole(QPalette::Base);
     connect(preview, &Preview::scaleChanged, footer, [=](double scale) {
         const PosterSettings &settings = m_poster.settings();
         const QString size = tr("%1 × %2 pixels, seen at %3 %").arg(settings.width).arg(settings.height);
