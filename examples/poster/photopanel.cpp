@@ -4,6 +4,7 @@
 
 #include <QScrollBar>
 #include <QSignalBlocker>
+#include <QStyle>
 
 #include <Tavik/LenConverter>
 #include <Tavik/TavikButton>
@@ -16,7 +17,7 @@ namespace {
 
 // What stands between thumbnails, and around each of them with that, in pixels.
 constexpr int tileSpacing = 3;
-constexpr int tileFrame = 11;
+constexpr int tileFrame = 12;
 
 } // namespace
 
@@ -51,8 +52,12 @@ PhotoPanel::PhotoPanel(Poster *poster, QWidget *parent)
 void PhotoPanel::buildList()
 {
     // Three in a row, and two rows before the list scrolls.
-    const int bar = m_list->verticalScrollBar()->sizeHint().width();
-    const double width = LenConverter::pxToRem((Panel::rowsWidth() - bar) / 3 - tileFrame);
+    QScrollBar *bar = m_list->verticalScrollBar();
+    bar->ensurePolished();
+    const int barWidth =
+        qMax(bar->sizeHint().width(), bar->style()->pixelMetric(QStyle::PM_ScrollBarExtent));
+    const double width =
+        LenConverter::pxToRem((Panel::rowsWidth() - barWidth - tileSpacing) / 3 - tileFrame);
     m_list->setIconRemSz(width, width * 2 / 3); // before the first image
     m_list->setSelectionMode(QAbstractItemView::SingleSelection);
     m_list->setSpacing(tileSpacing);

@@ -121,7 +121,7 @@ QWidget *PosterWindow::buildPanels()
                 Q_EMIT settled();
         });
     }
-    layout->addStretch();
+    layout->addStretch(1);
     area->setWidgetResizable(true);
     area->setWidget(column);
     column->setAutoFillBackground(false); // the area's own ground
