@@ -27,7 +27,7 @@ endfunction()
 
 # The library, with everything out of reach that only tests and benchmarks may look for.
 configure_and_build(library "${SOURCE}" -D BUILD_TESTING=OFF -D TAVIK_BUILD_GALLERY=OFF
-    -D CMAKE_DISABLE_FIND_PACKAGE_Qt5Test=ON -D CMAKE_DISABLE_FIND_PACKAGE_benchmark=ON)
+    -D TAVIK_BUILD_EXAMPLES=OFF -D CMAKE_DISABLE_FIND_PACKAGE_Qt5Test=ON -D CMAKE_DISABLE_FIND_PACKAGE_benchmark=ON)
 run("${CMAKE_COMMAND}" --install "${SCRATCH}/library" --prefix "${prefix}")
 
 file(GLOB_RECURSE installed RELATIVE "${prefix}" "${prefix}/*")
@@ -44,6 +44,10 @@ configure_and_build(by-find-package "${consumer}" -D CMAKE_PREFIX_PATH=${prefix}
 run("${SCRATCH}/by-find-package/consumer")
 configure_and_build(by-add-subdirectory "${consumer}" -D TAVIK_SOURCE=${SOURCE} -D WAY=add_subdirectory)
 run("${SCRATCH}/by-add-subdirectory/consumer")
+
+# The example stands alone too, and sees nothing but what is installed.
+configure_and_build(example "${SOURCE}/examples/poster" -D CMAKE_PREFIX_PATH=${prefix})
+run("${SCRATCH}/example/tavik-poster" --rem 10 --picture "${SCRATCH}/poster.png")
 
 # A version that promises another interface must not be taken.
 execute_process(

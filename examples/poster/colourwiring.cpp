@@ -10,9 +10,10 @@ ColourWiring::ColourWiring(QWidget *window)
 {
     connect(m_popup, &TavikColorPopup::colorChanged, this, [this](const QColor &color) {
         // It is invalid while a hexadecimal value is being typed. The sampler's colour comes here as well, when
-        // the popup is closed already: the answer stays until another control asks.
+        // the popup is closed already: the answer stays until another control asks. In eight bits a channel
+        // it is what a file keeps.
         if (color.isValid() && m_answer)
-            m_answer(color);
+            m_answer(QColor::fromRgba(color.rgba()));
     });
 }
 

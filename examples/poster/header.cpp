@@ -4,6 +4,7 @@
 
 #include <QFont>
 #include <QKeySequence>
+#include <QShortcut>
 #include <QUndoStack>
 
 #include <Tavik/LenConverter>
@@ -41,7 +42,8 @@ TavikButton *Header::addCommand(const QString &text, const QKeySequence &shortcu
         button->initStyleProperties(TavikButton::Link);
         button->updateStyleSheet();
     }
-    button->setShortcut(shortcut);
+    // A button's own shortcut would take the focus and click only later.
+    connect(new QShortcut(shortcut, this), &QShortcut::activated, button, &QPushButton::click);
     button->setToolTip(shortcut.toString(QKeySequence::NativeText));
     addWidget(button);
     return button;
