@@ -45,10 +45,12 @@ void CaptionPanel::buildRows()
 {
     m_text->setRemSize(RemRowWidth, Look::FieldHeight);
     m_size->setSuffix(QStringLiteral(" %"));
-    m_size->setToolTip(tr("Size of the letters, in percent of the poster's height"));
+    m_size->setToolTip(tr("Size of the letters, in percent of the poster's shorter side"));
     m_size->setRemSize(9, Look::FieldHeight);
     m_color->setRemSize(8, Look::FieldHeight);
     m_shadow->setRemSize(8, Look::FieldHeight);
+
+    m_shadow->setAccessibleName(tr("Shadow"));
 
     addRow(tr("Text"), {m_text});
     addRow(tr("Font"), {Look::place(m_family, RemRowWidth)});

@@ -74,6 +74,8 @@ void ExportPanel::buildSize()
     for (const PosterSize &size : posterSizes())
         m_size->addItem(size.title, size.size);
     m_size->addItem(tr("Size of your own"));
+    m_width->setAccessibleName(tr("Width"));
+    m_height->setAccessibleName(tr("Height"));
     addRow(tr("Poster"), {Look::place(m_size, RemRowWidth)});
     addRow(tr("Pixels"), {m_width, Look::label(QStringLiteral("\u00d7")), m_height});
 }

@@ -41,5 +41,6 @@ QWidget *Look::place(TavikComboBox *combo, double remWidth)
     place->removeMargins();
     place->setRemSize(remWidth, FieldHeight);
     place->addWidget(combo);
+    place->setFocusProxy(combo);
     return place;
 }

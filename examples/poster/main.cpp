@@ -42,10 +42,10 @@ int writePicture(PosterWindow &window, const QString &file)
 
 int main(int argc, char **argv)
 {
-    const bool asksForPicture = std::any_of(argv, argv + argc, [](const char *argument) {
-        return QByteArray(argument).startsWith("--picture");
+    const bool needsNoDisplay = std::any_of(argv, argv + argc, [](const QByteArray &argument) {
+        return argument.startsWith("--picture") || argument == "--help" || argument == "-h";
     });
-    if (asksForPicture && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+    if (needsNoDisplay && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
 
     QApplication app(argc, argv);

@@ -2,6 +2,8 @@
 
 #include "look.h"
 
+#include <QAbstractButton>
+
 #include <Tavik/LenConverter>
 #include <Tavik/TavikContainer>
 #include <Tavik/TavikLabel>
@@ -12,6 +14,15 @@ constexpr double inset = 1.2; // rem
 
 // What the panel's borders and paddings take of its width, and of its height, in pixels.
 constexpr int frame = 8;
+
+/// Lets a screen reader tell what has no text of its own by the name of its row.
+void nameForReaders(QWidget *widget, const QString &name)
+{
+    QWidget *control = widget->focusProxy() ? widget->focusProxy() : widget;
+    const auto *button = qobject_cast<QAbstractButton *>(control);
+    if (control->accessibleName().isEmpty() && (!button || button->text().isEmpty()))
+        control->setAccessibleName(name);
+}
 
 } // namespace
 
@@ -41,8 +52,10 @@ void Panel::addRow(const QString &name, std::initializer_list<QWidget *> widgets
     label->setFixedWidth(rowsWidth() - LenConverter::remToPx(RemRowWidth) -
                          LenConverter::remToPx(Look::Gap));
     row->addWidget(label);
-    for (QWidget *widget : widgets)
+    for (QWidget *widget : widgets) {
         row->addWidget(widget);
+        nameForReaders(widget, name);
+    }
     row->addStretch();
     m_rows->addWidget(row);
 }

@@ -30,6 +30,7 @@ PhotoPanel::PhotoPanel(Poster *poster, QWidget *parent)
 {
     buildList();
     m_ground->setRemSize(6, Look::FieldHeight);
+    m_ground->setAccessibleName(tr("Colour in place of a photograph"));
     TavikButton *add = Look::button(tr("Add..."), 7);
     add->setToolTip(tr("Add photographs from files; or drop them on the window"));
 
@@ -65,6 +66,7 @@ void PhotoPanel::buildList()
     const QStringList names = Photograph::ownNames();
     for (const QString &name : names)
         addTile(Photograph(name));
+    m_list->setAccessibleName(tr("Photographs"));
     addWide(m_list);
     connect(m_list, &QListWidget::currentItemChanged, this, [this](const QListWidgetItem *item) {
         if (item)

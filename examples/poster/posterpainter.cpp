@@ -9,13 +9,18 @@
 
 namespace {
 
+double letterHeight(const PosterSettings &settings, const QSize &size)
+{
+    return qMin(size.width(), size.height()) * settings.captionSize / 100.0;
+}
+
 QFont captionFont(const PosterSettings &settings, const QSize &size)
 {
     QFont font = QGuiApplication::font();
     if (!settings.family.isEmpty())
         font.setFamily(settings.family);
     font.setBold(settings.isBold);
-    font.setPixelSize(qMax(1, qRound(size.height() * settings.captionSize / 100.0)));
+    font.setPixelSize(qMax(1, qRound(letterHeight(settings, size))));
     font.setHintingPreference(QFont::PreferNoHinting); // lines break alike at every size
     return font;
 }
@@ -32,7 +37,7 @@ void paintText(QPainter &painter, const QSize &size, const PosterSettings &setti
 /// A soft shadow: the text painted small, and blurred by being drawn large.
 void paintShadow(QPainter &painter, const QSize &size, const PosterSettings &settings)
 {
-    const double letters = size.height() * settings.captionSize / 100.0;
+    const double letters = letterHeight(settings, size);
     const double blur = qMax(1.0, letters * 0.05);
     QImage small((QSizeF(size) / blur).toSize().expandedTo({1, 1}), QImage::Format_ARGB32_Premultiplied);
     small.fill(Qt::transparent);

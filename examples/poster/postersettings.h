@@ -29,7 +29,7 @@ struct PosterSettings
 
     QString caption = QStringLiteral("Above the clouds");
     QString family;          // empty: the application's
-    double captionSize = 12; // percent of the poster's height
+    double captionSize = 12; // percent of the poster's shorter side
     bool isBold = true;
     QColor captionColor = Qt::white;
     QColor shadowColor = QColor(0, 0, 0, 0x80);
