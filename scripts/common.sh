@@ -55,7 +55,7 @@ build() {
 }
 
 # open_application TARGET FOLDER HEADLESS [ARGUMENT]...: builds an application and starts it where the caller
-# stands. Without a display it can only write files: what HEADLESS asks for, unless the arguments ask for some.
+# stands. Without a display it can only write files: those that HEADLESS asks for, unless the arguments do.
 open_application() {
     local target=$1 program=$PWD/build/release/$2/$1 headless=$3
     local packages=("${build_packages[@]}" "${font_packages[@]}")

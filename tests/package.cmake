@@ -1,6 +1,7 @@
 # The package as its users meet it. Installs the library into a scratch prefix, built without anything that
 # only the tests need, and then builds and runs against it: a small consumer by find_package, the same one
-# by pkg-config and by add_subdirectory, and the application that the README shows, word for word.
+# by pkg-config and by add_subdirectory, the example, and the application that the README shows, word for
+# word.
 cmake_minimum_required(VERSION 3.18)
 
 set(prefix "${SCRATCH}/prefix")
@@ -27,7 +28,8 @@ endfunction()
 
 # The library, with everything out of reach that only tests and benchmarks may look for.
 configure_and_build(library "${SOURCE}" -D BUILD_TESTING=OFF -D TAVIK_BUILD_GALLERY=OFF
-    -D TAVIK_BUILD_EXAMPLES=OFF -D CMAKE_DISABLE_FIND_PACKAGE_Qt5Test=ON -D CMAKE_DISABLE_FIND_PACKAGE_benchmark=ON)
+    -D TAVIK_BUILD_EXAMPLES=OFF
+    -D CMAKE_DISABLE_FIND_PACKAGE_Qt5Test=ON -D CMAKE_DISABLE_FIND_PACKAGE_benchmark=ON)
 run("${CMAKE_COMMAND}" --install "${SCRATCH}/library" --prefix "${prefix}")
 
 file(GLOB_RECURSE installed RELATIVE "${prefix}" "${prefix}/*")

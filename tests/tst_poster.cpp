@@ -29,6 +29,7 @@ private Q_SLOTS:
     void gradientAsText();
     void onePopupForEveryColour();
     void aDragIsOneUndo();
+    void theWheelScrollsThePanels();
     void settingsAreSavedAndOpened();
     void brokenSettings_data();
     void brokenSettings();
@@ -266,6 +267,16 @@ void TestPoster::aDragIsOneUndo()
     QCOMPARE(slider->value(), opacity);
 }
 
+void TestPoster::theWheelScrollsThePanels()
+{
+    PosterWindow window;
+    window.show();
+    QTRY_VERIFY(window.findChild<TavikScrollArea *>()->verticalScrollBar()->maximum() > 0);
+    Support::turnWheel(window.findChild<TavikFontFamilyComboBox *>());
+    QCOMPARE(window.poster()->undoStack()->count(), 0);
+    QVERIFY(window.findChild<TavikScrollArea *>()->verticalScrollBar()->value() > 0);
+}
+
 void TestPoster::settingsAreSavedAndOpened()
 {
     const QTemporaryDir directory;
@@ -338,6 +349,7 @@ void TestPoster::brokenSettings_data()
     row("export", "width", 0, "must be from 16"_s);
     row("export", "sizes", "a4"_s, "must be a list"_s);
     row("export", "sizes", QJsonArray{"a4"_s, 3}, "may hold nothing but full-hd"_s);
+    row("photograph", "file", QString(), "must name a photograph"_s);
     row("photograph", "file", "gone.png"_s, "gone.png can't be read"_s);
     row("photograph", "file", "own:gone"_s, "no photograph"_s);
 }

@@ -1,22 +1,15 @@
+#include "commandline.h"
 #include "look.h"
 #include "posterwindow.h"
 
 #include <QApplication>
-#include <QCommandLineParser>
 #include <QTextStream>
-
-#include <algorithm>
 
 #include <Tavik/LenConverter>
 
 namespace {
 
 enum ExitCode { Done = 0, CannotWrite = 1, BadValue = 2 };
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("main", text);
-}
 
 int fail(const QString &message, ExitCode code)
 {
@@ -27,59 +20,36 @@ int fail(const QString &message, ExitCode code)
 /// Writes a picture of the window, once its panels stand still, and ends.
 int writePicture(PosterWindow &window, const QString &file)
 {
-    QObject::connect(
-        &window, &PosterWindow::settled, &window,
-        [&] { QCoreApplication::exit(window.grab().save(file) ? Done : CannotWrite); },
-        Qt::QueuedConnection);
+    const auto write = [&] { QCoreApplication::exit(window.grab().save(file) ? Done : CannotWrite); };
+    QObject::connect(&window, &PosterWindow::settled, &window, write, Qt::QueuedConnection);
     window.resize(PosterWindow::goodSize());
     window.show();
     const int code = QApplication::exec();
-    return code == Done ? Done
-                        : fail(tr(QT_TRANSLATE_NOOP("main", "Can't write %1")).arg(file), CannotWrite);
+    return code == Done ? Done : fail(CommandLine::tr("Can't write %1").arg(file), CannotWrite);
 }
 
 } // namespace
 
 int main(int argc, char **argv)
 {
-    const bool needsNoDisplay = std::any_of(argv, argv + argc, [](const QByteArray &argument) {
-        return argument.startsWith("--picture") || argument == "--help" || argument == "-h";
-    });
-    if (needsNoDisplay && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+    if (CommandLine::needsNoDisplay(argc, argv) && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
-
     QApplication app(argc, argv);
     app.setApplicationName(QStringLiteral("tavik-poster"));
-    const QCommandLineOption rem(QStringLiteral("rem"),
-                                 tr(QT_TRANSLATE_NOOP("main", "Pixels per rem: 10, 12, 18, 24, 30. Without "
-                                                              "it, the screen decides.")),
-                                 QStringLiteral("number"));
-    const QCommandLineOption picture(
-        QStringLiteral("picture"),
-        tr(QT_TRANSLATE_NOOP("main", "Write a picture of the window to this PNG file, and end.")),
-        QStringLiteral("file"));
-    QCommandLineParser parser;
-    parser.setApplicationDescription(
-        tr(QT_TRANSLATE_NOOP("main", "Makes posters and backgrounds of photographs.")));
-    parser.addHelpOption();
-    parser.addOptions({rem, picture});
-    parser.addPositionalArgument(QStringLiteral("settings"),
-                                 tr(QT_TRANSLATE_NOOP("main", "A poster's settings to open.")),
-                                 QStringLiteral("[settings]"));
-    parser.process(app);
+    CommandLine commandLine;
+    const QString mistake = commandLine.read();
+    if (!mistake.isEmpty())
+        return fail(mistake, BadValue);
 
     Look::apply(app);
     LenConverter::initRem(); // before the first control
-    if (parser.isSet(rem)) {
-        LenConverter::m_rem = parser.value(rem).toInt();
-        if (!QVector<int>{10, 12, 18, 24, 30}.contains(LenConverter::m_rem))
-            return fail(tr(QT_TRANSLATE_NOOP("main", "Pixels per rem: 10, 12, 18, 24, 30")), BadValue);
-    }
+    if (commandLine.rem() > 0)
+        LenConverter::m_rem = commandLine.rem();
     PosterWindow window;
-    if (!parser.positionalArguments().isEmpty())
-        window.openSettings(parser.positionalArguments().first());
-    if (parser.isSet(picture))
-        return writePicture(window, parser.value(picture));
+    if (!commandLine.settings().isEmpty())
+        window.openSettings(commandLine.settings());
+    if (!commandLine.picture().isEmpty())
+        return writePicture(window, commandLine.picture());
     window.show();
     return QApplication::exec();
 }

@@ -2,6 +2,8 @@
 
 #include "look.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QStyle>
@@ -78,7 +80,8 @@ QString PhotoPanel::addPhotographs(const QStringList &files)
 {
     QStringList problems;
     QString last;
-    for (const QString &file : files) {
+    for (const QString &path : files) {
+        const QString file = QDir::cleanPath(QFileInfo(path).absoluteFilePath());
         const Photograph photograph(file);
         if (photograph.isNull())
             problems.append(photograph.error());

@@ -12,6 +12,7 @@
 #include "settingsfile.h"
 
 #include <QCloseEvent>
+#include <QComboBox>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -26,6 +27,26 @@
 #include <Tavik/LenConverter>
 #include <Tavik/TavikLabel>
 #include <Tavik/TavikScrollArea>
+
+namespace {
+
+/// Whether a field is about to take undo for its own text; here it is the poster's.
+bool isUndoInField(const QObject *watched, const QEvent *event)
+{
+    if (event->type() != QEvent::ShortcutOverride || !qobject_cast<const QLineEdit *>(watched))
+        return false;
+    const auto *key = static_cast<const QKeyEvent *>(event);
+    return key->matches(QKeySequence::Undo) || key->matches(QKeySequence::Redo);
+}
+
+/// Whether the wheel would change a combo box that only happens to be under the pointer.
+bool isStrayWheel(const QObject *watched, const QEvent *event)
+{
+    const auto *combo = qobject_cast<const QComboBox *>(watched);
+    return event->type() == QEvent::Wheel && combo && !combo->hasFocus();
+}
+
+} // namespace
 
 PosterWindow::PosterWindow(QWidget *parent)
     : QWidget(parent)
@@ -250,15 +271,10 @@ bool PosterWindow::eventFilter(QObject *watched, QEvent *event)
     // All that is done by one press of the mouse, in the popup and the sampler too, is undone at once.
     if (event->type() == QEvent::MouseButtonPress && watched->isWindowType())
         m_poster.beginStep();
-    // Undo is the poster's, also while a field has the focus that could undo its own text.
-    if (event->type() == QEvent::ShortcutOverride && qobject_cast<QLineEdit *>(watched)) {
-        auto *key = static_cast<QKeyEvent *>(event);
-        if (key->matches(QKeySequence::Undo) || key->matches(QKeySequence::Redo)) {
-            key->ignore();
-            return true;
-        }
-    }
-    return QWidget::eventFilter(watched, event);
+    if (!isUndoInField(watched, event) && !isStrayWheel(watched, event))
+        return QWidget::eventFilter(watched, event);
+    event->ignore(); // leaves the keys to the shortcuts, and the wheel to the panels around the control
+    return true;
 }
 
 void PosterWindow::closeEvent(QCloseEvent *event)
@@ -290,5 +306,6 @@ void PosterWindow::dropEvent(QDropEvent *event)
         if (url.isLocalFile())
             files.append(url.toLocalFile());
     }
+    event->acceptProposedAction();
     addPhotographs(files);
 }

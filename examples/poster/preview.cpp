@@ -70,7 +70,7 @@ void Preview::paintShadow(QPainter &painter) const
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor(0, 0, 0, 4));
+    painter.setBrush(QColor(0, 0, 0, 3));
     const int depth = LenConverter::remToPx(1.4);
     for (int i = depth; i > 0; i -= qMax(1, depth / 10))
         painter.drawRoundedRect(posterRect().adjusted(-i, -i / 2, i, i + depth / 3), i, i);

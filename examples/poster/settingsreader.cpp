@@ -28,7 +28,9 @@ void SettingsReader::text(const char *name, QString &value)
 void SettingsReader::file(const char *name, QString &value)
 {
     text(name, value);
-    if (!Photograph::isOwn(value) && !value.isEmpty())
+    if (value.isEmpty())
+        complain(name, tr("must name a photograph"));
+    else if (!Photograph::isOwn(value))
         value = QDir::cleanPath(QDir(m_directory).absoluteFilePath(value));
 }
 
