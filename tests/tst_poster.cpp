@@ -33,7 +33,7 @@ private Q_SLOTS:
     void settingsAreSavedAndOpened();
     void brokenSettings_data();
     void brokenSettings();
-    void brokenPhotograph();
+    void aBrokenFileLosesNothing();
     void cancelledBatch();
     void unwritableExport();
     void nothingIsClipped_data();
@@ -80,17 +80,15 @@ QString exported(PosterWindow &window, const QString &file)
 }
 
 /// The greatest difference of a channel between two pictures of one size.
-int difference(const QImage &a, const QImage &b)
+int difference(QImage a, QImage b)
 {
-    int greatest = a.size() == b.size() ? 0 : 255;
-    for (int y = 0; y < a.height() && greatest < 255; ++y) {
-        for (int x = 0; x < a.width(); ++x) {
-            const QColor p = a.pixelColor(x, y);
-            const QColor q = b.pixelColor(x, y);
-            greatest = std::max({greatest, qAbs(p.red() - q.red()), qAbs(p.green() - q.green()),
-                                 qAbs(p.blue() - q.blue()), qAbs(p.alpha() - q.alpha())});
-        }
-    }
+    if (a.size() != b.size())
+        return 255;
+    a = a.convertToFormat(QImage::Format_RGBA8888);
+    b = b.convertToFormat(QImage::Format_RGBA8888);
+    int greatest = 0;
+    for (int i = 0; i < int(a.sizeInBytes()); ++i)
+        greatest = qMax(greatest, qAbs(a.constBits()[i] - b.constBits()[i]));
     return greatest;
 }
 
@@ -360,28 +358,32 @@ void TestPoster::brokenSettings()
     QFETCH(QString, reason);
     const QTemporaryDir directory;
     const QString path = directory.filePath("poster.json"_s);
-    PosterWindow window;
-    window.poster()->edit("caption"_s, [](PosterSettings &s) { s.caption = "Mine"_s; });
-    const PosterSettings mine = window.poster()->settings();
-    window.openSettings(path);
-    QVERIFY(window.message().contains(path)); // it isn't there yet
+    PosterSettings mine;
+    mine.caption = "Mine"_s;
+    const PosterSettings before = mine;
+    QVERIFY(SettingsFile(path).read(mine).contains(path)); // it isn't there yet
     writeFile(path, content);
-    window.openSettings(path);
-    QVERIFY2(window.message().contains(reason), qPrintable(window.message()));
-    QVERIFY(window.poster()->settings() == mine);
-    QCOMPARE(window.poster()->undoStack()->count(), 1);
+    const QString fault = SettingsFile(path).read(mine);
+    QVERIFY2(fault.contains(path) && fault.contains(reason), qPrintable(fault));
+    QVERIFY(mine == before);
 }
 
-void TestPoster::brokenPhotograph()
+void TestPoster::aBrokenFileLosesNothing()
 {
     const QTemporaryDir directory;
-    const QString broken = directory.filePath("broken.png"_s);
-    writeFile(broken, "no picture");
-    PosterWindow window;
+    const QString settings = directory.filePath("poster.json"_s);
+    const QString photograph = directory.filePath("broken.png"_s);
     const QString good = writePhotograph(directory);
-    window.addPhotographs({good, broken});
+    writeFile(settings, "{");
+    writeFile(photograph, "no picture");
+    PosterWindow window;
+    window.addPhotographs({good, photograph});
     QVERIFY(window.message().contains("broken.png"_s));
     QCOMPARE(window.poster()->settings().photograph, good);
+    window.openSettings(settings);
+    QVERIFY(window.message().contains("poster.json"_s));
+    QCOMPARE(window.poster()->settings().photograph, good);
+    QCOMPARE(window.poster()->undoStack()->count(), 1);
 }
 
 void TestPoster::cancelledBatch()
