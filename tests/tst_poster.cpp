@@ -135,7 +135,7 @@ void TestPoster::photographsInPicturesOut()
     QVERIFY(one.pixelColor(1919, 500).blue() > 250 && one.pixelColor(1919, 500).green() < 5);
     QVERIFY(qAbs(one.pixelColor(955, 500).red() - 128) < 3);
 
-    withText<TavikCheckBox>(window, "Over the photograph"_s)->click();
+    withText<TavikCheckBox>(window, "Over the picture"_s)->click();
     for (const char *size : {"Full HD", "Phone"}) // away from the batch, which leaves the square
         withText<TavikCheckBox>(window, QString::fromLatin1(size))->click();
     withText<TavikCheckBox>(window, "Laptop"_s)->click();

@@ -29,7 +29,7 @@ int turned(int angle)
 
 GradientPanel::GradientPanel(Poster *poster, QWidget *parent)
     : Panel(tr("Gradient"), poster, parent)
-    , m_shown(new TavikCheckBox(tr("Over the photograph")))
+    , m_shown(new TavikCheckBox(tr("Over the picture")))
     , m_bar(new TavikGradientBar(RemRowWidth, 2.4))
     , m_dial(new TavikDial)
     , m_angle(new TavikSpinbox(0, 359))

@@ -107,7 +107,9 @@ QListWidgetItem *PhotoPanel::tile(const QString &name) const
 QListWidgetItem *PhotoPanel::addTile(const Photograph &photograph)
 {
     // The list's own addImage() stretches what has other proportions; these thumbnails are cut instead.
-    const QIcon icon(QPixmap::fromImage(photograph.cover(m_list->iconSize())));
+    const QPixmap thumbnail = QPixmap::fromImage(photograph.cover(m_list->iconSize()));
+    QIcon icon(thumbnail);
+    icon.addPixmap(thumbnail, QIcon::Selected); // or the toolkit tints the chosen one
     auto *item = new QListWidgetItem(icon, QString(), m_list);
     item->setData(Qt::UserRole, photograph.name());
     item->setToolTip(Photograph::title(photograph.name()));
