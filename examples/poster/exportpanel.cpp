@@ -17,6 +17,7 @@
 #include <Tavik/TavikLabel>
 #include <Tavik/TavikRadioButton>
 #include <Tavik/TavikSpinbox>
+#include <Tavik/TypographyTool>
 
 namespace {
 
