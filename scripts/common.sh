@@ -1,5 +1,6 @@
 # What the other scripts share; they read it in with `.`.
 
+caller=$PWD # where the script was called
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 build_packages=(g++ cmake ninja-build qtbase5-dev libqt5svg5)
@@ -53,4 +54,26 @@ build() {
     cmake --preset "$preset" "$@" > "$log" 2>&1 \
         && cmake --build --preset "$preset" --target "$target" > "$log" 2>&1 \
         || { cat "$log"; exit 1; }
+}
+
+# open_application TARGET FOLDER HEADLESS [ARGUMENT]...: builds an application and starts it where the caller
+# stands. Without a display it can only write files: those that HEADLESS asks for, unless the arguments do.
+open_application() {
+    local target=$1 program=$PWD/build/release/$2/$1 headless=$3
+    local packages=("${build_packages[@]}" "${font_packages[@]}")
+    shift 3
+    [ -z "${WAYLAND_DISPLAY:-}" ] || packages+=(qtwayland5)
+    need "${packages[@]}"
+    build release "$target"
+    cd "$caller"
+    case " $* " in
+        *" --picture"* | *" --samples"* | *" --help "* | *" -h "* | *" --version "* | *" -v "*)
+            exec "$program" "$@"
+            ;;
+    esac
+    [ -z "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ] || exec "$program" "$@"
+
+    # shellcheck disable=SC2086 # several words
+    "$program" $headless "$@"
+    echo "There is no display to open a window on: instead, this was written to ${headless##* }"
 }

@@ -1,6 +1,6 @@
 # The package as its users meet it. Installs the library into a scratch prefix, built without anything that
 # only the tests need, and then builds and runs against it: a small consumer by find_package, the same one
-# by pkg-config and by add_subdirectory, and the code that README and guide show, word for word.
+# by pkg-config and by add_subdirectory, the example, and the code that README and guide show, word for word.
 cmake_minimum_required(VERSION 3.18)
 
 set(prefix "${SCRATCH}/prefix")
@@ -27,6 +27,7 @@ endfunction()
 
 # The library, with everything out of reach that only tests and benchmarks may look for.
 configure_and_build(library "${SOURCE}" -D BUILD_TESTING=OFF -D TAVIK_BUILD_GALLERY=OFF
+    -D TAVIK_BUILD_EXAMPLES=OFF
     -D CMAKE_DISABLE_FIND_PACKAGE_Qt5Test=ON -D CMAKE_DISABLE_FIND_PACKAGE_benchmark=ON)
 run("${CMAKE_COMMAND}" --install "${SCRATCH}/library" --prefix "${prefix}")
 
@@ -51,6 +52,10 @@ run("${SCRATCH}/by-find-package/consumer")
 configure_and_build(by-add-subdirectory "${consumer}" -D TAVIK_SOURCE=${SOURCE} -D WAY=add_subdirectory
     -D CMAKE_DISABLE_FIND_PACKAGE_Qt5LinguistTools=ON)
 run("${SCRATCH}/by-add-subdirectory/consumer")
+
+# The example stands alone too, and sees nothing but what is installed.
+configure_and_build(example "${SOURCE}/examples/poster" -D CMAKE_PREFIX_PATH=${prefix})
+run("${SCRATCH}/example/tavik-poster" --rem 10 --picture "${SCRATCH}/poster.png")
 
 # A version that promises another interface must not be taken.
 execute_process(

@@ -1,10 +1,49 @@
 #include "support.h"
 
+#include <QAbstractButton>
+#include <QLabel>
+
 #include <Tavik/LenConverter>
 
 namespace {
 
 TestCase *runningTest = nullptr;
+
+/// The size of the text that a widget shows, empty if it shows none or may wrap it.
+QSize textSize(const QWidget *widget)
+{
+    QString text;
+    if (const auto *label = qobject_cast<const QLabel *>(widget))
+        text = label->wordWrap() ? QString() : label->text();
+    else if (const auto *button = qobject_cast<const QAbstractButton *>(widget))
+        text = button->text();
+    return text.isEmpty() ? QSize(0, 0) : widget->fontMetrics().size(Qt::TextShowMnemonic, text);
+}
+
+/// What is wrong with where a widget stands, empty if nothing is.
+QString fault(const QWidget *widget)
+{
+    const QSize text = textSize(widget);
+    if (text.width() > widget->width() || text.height() > widget->height())
+        return QStringLiteral("its text is clipped");
+    const auto *label = qobject_cast<const QLabel *>(widget);
+    if (label && label->wordWrap() && label->heightForWidth(label->width()) > label->height())
+        return QStringLiteral("its lines are clipped");
+    if (!widget->parentWidget()->rect().contains(widget->geometry()))
+        return QStringLiteral("it stands outside its parent");
+    return {};
+}
+
+/// Whether a widget need not stand inside its parent.
+bool isExempt(const QWidget *widget)
+{
+    const QWidget *parent = widget->parentWidget();
+    // What a view scrolls is larger than the view on purpose.
+    const bool isScrolled = parent->inherits("QAbstractScrollArea") ||
+                            parent->objectName() == QLatin1String("qt_scrollarea_viewport");
+    const bool isClosed = parent->height() == 0; // what a closed panel holds
+    return isScrolled || isClosed || widget->isWindow();
+}
 
 } // namespace
 
@@ -88,4 +127,26 @@ void Support::turnWheel(QWidget *widget)
                       Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
     QSpontaneKeyEvent::setSpontaneous(&event); // others never reach the parents
     qApp->notify(widget, &event);
+}
+
+int Support::lookForFaults(const QWidget &window, QString *problem)
+{
+    int seen = 0;
+    const QList<QWidget *> widgets = window.findChildren<QWidget *>();
+    for (const QWidget *widget : widgets) {
+        if (!widget->isVisibleTo(&window) || isExempt(widget))
+            continue;
+        *problem = fault(widget);
+        if (!problem->isEmpty()) {
+            *problem = QStringLiteral("%1 \"%2\" of %3x%4: %5")
+                           .arg(QString::fromLatin1(widget->metaObject()->className()),
+                                widget->property("text").toString())
+                           .arg(widget->width())
+                           .arg(widget->height())
+                           .arg(*problem);
+            return seen;
+        }
+        ++seen;
+    }
+    return seen;
 }

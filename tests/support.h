@@ -55,6 +55,10 @@ void hover(QWidget *widget);
 /// parents.
 void turnWheel(QWidget *widget);
 
+/// Looks through what a window shows for text that is clipped and for widgets outside their parents. Describes
+/// the first fault, if there is one, and returns how many widgets were seen before it.
+int lookForFaults(const QWidget &window, QString *fault);
+
 } // namespace Support
 
 #define TAVIK_TEST_MAIN(TestClass)                                                                         \

@@ -6,8 +6,6 @@
 #include <pictureswriter.h>
 #include <remchoice.h>
 
-#include <QAbstractButton>
-#include <QLabel>
 #include <QProcess>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -47,31 +45,6 @@ Outcome runGallery(const QStringList &arguments)
             QString::fromLocal8Bit(gallery.readAll())};
 }
 
-/// The size of the text that a widget shows, empty if it shows none or may wrap it.
-QSize textSize(const QWidget *widget)
-{
-    QString text;
-    if (const auto *label = qobject_cast<const QLabel *>(widget))
-        text = label->wordWrap() ? QString() : label->text();
-    else if (const auto *button = qobject_cast<const QAbstractButton *>(widget))
-        text = button->text();
-    return text.isEmpty() ? QSize(0, 0) : widget->fontMetrics().size(Qt::TextShowMnemonic, text);
-}
-
-/// What is wrong with where a widget stands, empty if nothing is.
-QString fault(const QWidget *widget)
-{
-    const QSize text = textSize(widget);
-    if (text.width() > widget->width() || text.height() > widget->height())
-        return QStringLiteral("its text is clipped");
-    const auto *label = qobject_cast<const QLabel *>(widget);
-    if (label && label->wordWrap() && label->heightForWidth(label->width()) > label->height())
-        return QStringLiteral("its lines are clipped");
-    if (!widget->parentWidget()->rect().contains(widget->geometry()))
-        return QStringLiteral("it stands outside its parent");
-    return {};
-}
-
 } // namespace
 
 void TestGallery::nothingIsClipped_data()
@@ -98,26 +71,9 @@ void TestGallery::nothingIsClipped()
     QCoreApplication::processEvents();
     frame.grab();
 
-    int seen = 0;
-    for (const QWidget *widget : frame.findChildren<QWidget *>()) {
-        // What a view scrolls is larger than the view on purpose.
-        const bool isScrolled =
-            widget->parentWidget()->inherits("QAbstractScrollArea") ||
-            widget->parentWidget()->objectName() == QLatin1String("qt_scrollarea_viewport");
-        const bool isClosed = widget->parentWidget()->height() == 0; // what a closed panel holds
-        if (!widget->isVisibleTo(&frame) || isScrolled || isClosed)
-            continue;
-        const QString problem = fault(widget);
-        QVERIFY2(problem.isEmpty(),
-                 qPrintable(QStringLiteral("%1 \"%2\" of %3x%4: %5")
-                                .arg(QString::fromLatin1(widget->metaObject()->className()),
-                                     widget->property("text").toString())
-                                .arg(widget->width())
-                                .arg(widget->height())
-                                .arg(problem)));
-        ++seen;
-    }
-    QVERIFY(seen > 50);
+    QString problem;
+    QVERIFY(Support::lookForFaults(frame, &problem) > 50);
+    QVERIFY2(problem.isEmpty(), qPrintable(problem));
     const auto *area = frame.findChild<QScrollArea *>();
     QVERIFY2(area->widget()->width() <= area->viewport()->width(), "the page is wider than its window");
     QVERIFY2(!area->verticalScrollBar()->isVisibleTo(area), "the page scrolls at its full height");

@@ -1,0 +1,63 @@
+#include "photograph.h"
+
+#include "landscapes.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QImageReader>
+
+namespace {
+
+const QLatin1String ownPrefix("own:");
+
+} // namespace
+
+Photograph::Photograph(const QString &name)
+    : m_name(name)
+{
+    if (isOwn(name)) {
+        m_landscape = name.mid(ownPrefix.size());
+        if (!Landscapes::names().contains(m_landscape)) {
+            m_error = tr("There is no photograph \"%1\".").arg(m_landscape);
+            m_landscape.clear();
+        }
+        return;
+    }
+    QImageReader reader(name);
+    reader.setAutoTransform(true); // a camera held upright says so in its file
+    m_image = reader.read();
+    if (m_image.isNull())
+        m_error = tr("The photograph %1 can't be read: %2.")
+                      .arg(QDir::toNativeSeparators(name), reader.errorString());
+}
+
+QString Photograph::title(const QString &name)
+{
+    return isOwn(name) ? Landscapes::title(name.mid(ownPrefix.size())) : QFileInfo(name).fileName();
+}
+
+bool Photograph::isOwn(const QString &name)
+{
+    return name.startsWith(ownPrefix);
+}
+
+QStringList Photograph::ownNames()
+{
+    QStringList names = Landscapes::names();
+    for (QString &name : names)
+        name.prepend(ownPrefix);
+    return names;
+}
+
+QImage Photograph::cover(const QSize &size) const
+{
+    if (isNull() || size.isEmpty())
+        return {};
+    if (!m_landscape.isEmpty())
+        return Landscapes::paint(m_landscape, size);
+    // Cut first: scaled whole, a very long photograph would take any amount of memory.
+    QRect part(QPoint(), size.scaled(m_image.size(), Qt::KeepAspectRatio).expandedTo({1, 1}));
+    part.moveCenter(m_image.rect().center());
+    return m_image.copy(part & m_image.rect())
+        .scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}

@@ -1,0 +1,463 @@
+#include "support.h"
+
+#include <exporter.h>
+#include <gradienttext.h>
+#include <posterpainter.h>
+#include <posterwindow.h>
+#include <preview.h>
+#include <settingsfile.h>
+
+#include <Tavik/Tavik>
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QMimeData>
+#include <QPainter>
+#include <QProcess>
+#include <QScrollBar>
+#include <QTemporaryDir>
+
+class TestPoster : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void photographsInPicturesOut();
+    void photographIsCutToTheMiddle();
+    void previewShowsWhatIsExported();
+    void gradientAsText();
+    void onePopupForEveryColour();
+    void aDragIsOneUndo();
+    void theWheelScrollsThePanels();
+    void settingsAreSavedAndOpened();
+    void brokenSettings_data();
+    void brokenSettings();
+    void aBrokenFileLosesNothing();
+    void cancelledBatch();
+    void unwritableExport();
+    void nothingIsClipped_data();
+    void nothingIsClipped();
+    void commandLine();
+};
+
+namespace {
+
+QString operator""_s(const char *text, std::size_t)
+{
+    return QString::fromUtf8(text);
+}
+
+/// A photograph whose left half is red and whose right half is blue.
+QString writePhotograph(const QTemporaryDir &directory)
+{
+    QImage image(300, 200, QImage::Format_RGB32);
+    image.fill(Qt::blue);
+    QPainter(&image).fillRect(0, 0, 150, 200, Qt::red);
+    const QString file = directory.filePath("halves.png"_s);
+    image.save(file);
+    return file;
+}
+
+/// The one control of its kind that a test means, by the text it shows.
+template <class Control>
+Control *withText(const QWidget &window, const QString &text)
+{
+    for (Control *control : window.findChildren<Control *>()) {
+        if (control->text() == text)
+            return control;
+    }
+    qFatal("No control \"%s\"", qPrintable(text));
+}
+
+/// Exports, and waits until that is done. Returns what the user is told.
+QString exported(PosterWindow &window, const QString &file)
+{
+    QSignalSpy finished(window.exporter(), &Exporter::finished);
+    window.exportTo(file);
+    finished.wait();
+    return window.message();
+}
+
+/// The greatest difference of a channel between two pictures of one size.
+int difference(QImage a, QImage b)
+{
+    if (a.size() != b.size())
+        return 255;
+    a = a.convertToFormat(QImage::Format_RGBA8888);
+    b = b.convertToFormat(QImage::Format_RGBA8888);
+    int greatest = 0;
+    for (int i = 0; i < int(a.sizeInBytes()); ++i)
+        greatest = qMax(greatest, qAbs(a.constBits()[i] - b.constBits()[i]));
+    return greatest;
+}
+
+QByteArray readFile(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void writeFile(const QString &path, const QByteArray &content)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        qFatal("Can't write %s", qPrintable(path));
+}
+
+} // namespace
+
+void TestPoster::photographsInPicturesOut()
+{
+    const QTemporaryDir directory;
+    PosterWindow window;
+    window.show();
+    QMimeData files;
+    files.setUrls({QUrl::fromLocalFile(writePhotograph(directory))});
+    QDragEnterEvent enter({9, 9}, Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&window, &enter);
+    QDropEvent drop(QPointF(9, 9), Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&window, &drop);
+    QCOMPARE(window.findChild<TavikImageList *>()->count(), Photograph::ownNames().size() + 1);
+
+    withText<TavikLineEdit>(window, "Above the clouds"_s)->clear();
+    auto *bar = window.findChild<TavikGradientBar *>();
+    bar->setStartValue(0);
+    bar->setEndValue(100);
+    bar->setStartColor(Qt::green);
+    bar->setEndColor(QColor(0, 255, 0, 0));
+    window.findChild<TavikDial *>()->setValue(270); // to the right
+
+    QVERIFY(exported(window, directory.filePath("one.png"_s)).contains("one.png"_s));
+    const QImage one(directory.filePath("one.png"_s));
+    QCOMPARE(one.size(), QSize(1920, 1080));
+    QVERIFY(one.pixelColor(0, 500).green() > 250 && one.pixelColor(0, 500).red() < 5);
+    QVERIFY(one.pixelColor(1919, 500).blue() > 250 && one.pixelColor(1919, 500).green() < 5);
+    QVERIFY(qAbs(one.pixelColor(955, 500).red() - 128) < 3);
+
+    withText<TavikCheckBox>(window, "Over the picture"_s)->click();
+    for (const char *size : {"Full HD", "Phone"}) // away from the batch, which leaves the square
+        withText<TavikCheckBox>(window, QString::fromLatin1(size))->click();
+    withText<TavikCheckBox>(window, "Laptop"_s)->click();
+    QVERIFY(exported(window, directory.filePath("all.png"_s)).contains("2 pictures"_s));
+    for (const QSize &size : {QSize(1080, 1080), QSize(1366, 768)}) {
+        const QImage picture(directory.filePath("all-%1x%2.png"_s.arg(size.width()).arg(size.height())));
+        QCOMPARE(picture.size(), size);
+        QCOMPARE(picture.pixelColor(9, 9), QColor(Qt::red));
+        QCOMPARE(picture.pixelColor(size.width() - 9, 9), QColor(Qt::blue));
+        Poster *poster = window.poster();
+        const QImage painted = PosterPainter::picture(poster->settings(), poster->photograph(), size);
+        QCOMPARE(difference(picture, painted), 0);
+    }
+}
+
+void TestPoster::photographIsCutToTheMiddle()
+{
+    const QTemporaryDir directory;
+    const QImage cover = Photograph(writePhotograph(directory)).cover({100, 400});
+    QCOMPARE(cover.size(), QSize(100, 400));
+    QCOMPARE(cover.pixelColor(10, 200), QColor(Qt::red));
+    QCOMPARE(cover.pixelColor(90, 200), QColor(Qt::blue));
+    QCOMPARE(Photograph("own:snow"_s).cover({64, 48}).size(), QSize(64, 48));
+    QVERIFY(!Photograph("own:nowhere"_s).error().isEmpty());
+}
+
+void TestPoster::previewShowsWhatIsExported()
+{
+    PosterWindow window;
+    auto *preview = window.findChild<Preview *>();
+    window.show();
+    const QImage first = Support::picture(preview).copy(preview->posterRect());
+    withText<TavikButton>(window, "Centre"_s)->click();
+    const QImage seen = Support::picture(preview).copy(preview->posterRect());
+    Poster *poster = window.poster();
+    const QImage painted = PosterPainter::picture(poster->settings(), poster->photograph(), seen.size());
+    QVERIFY(difference(seen, painted) <= 1);
+    QVERIFY(difference(seen, first) > 50);
+}
+
+void TestPoster::gradientAsText()
+{
+    PosterSettings settings;
+    settings.caption.clear();
+    settings.hasPhotograph = false;
+    settings.ground = Qt::white;
+    settings.width = 300;
+    settings.height = 100;
+    settings.opacity = 50;
+    settings.startColor = Qt::red;
+    settings.endColor = QColor(0, 0, 255, 0);
+    QCOMPARE(GradientText::css(settings),
+             "linear-gradient(30deg, rgba(255, 0, 0, 0.502) 5%, rgba(0, 0, 255, 0) 80%)"_s);
+
+    // The toolkit understands the other one, and shows what we paint.
+    QWidget ground;
+    QWidget widget(&ground);
+    widget.resize(settings.size());
+    ground.resize(settings.size());
+    ground.setPalette(Qt::white);
+    widget.setAttribute(Qt::WA_StyledBackground);
+    widget.setStyleSheet("background: "_s + GradientText::styleSheet(settings));
+    const QImage painted = PosterPainter::picture(settings, {}, settings.size());
+    QVERIFY(difference(Support::picture(&ground), painted) <= 3);
+}
+
+void TestPoster::onePopupForEveryColour()
+{
+    PosterWindow window;
+    window.show();
+    const PosterSettings before = window.poster()->settings();
+    auto *popup = window.findChild<TavikColorPopup *>();
+    auto *bar = window.findChild<TavikGradientBar *>();
+    auto *ground = window.findChild<TavikColorButton *>();
+
+    QTest::mouseClick(ground, Qt::LeftButton);
+    QVERIFY(popup->isVisible());
+    QCOMPARE(popup->currentColor().rgba(), before.ground.rgba());
+    Q_EMIT popup->colorChanged(Qt::yellow);
+    Q_EMIT popup->colorChanged(QColor()); // while a hexadecimal value is typed
+    QCOMPARE(window.poster()->settings().ground, QColor(Qt::yellow));
+
+    QTest::mouseClick(bar, Qt::LeftButton, {}, {bar->width() - bar->height(), bar->height() / 2});
+    Q_EMIT popup->colorChanged(Qt::cyan);
+    const PosterSettings after = window.poster()->settings();
+    QCOMPARE(after.endColor, QColor(Qt::cyan));
+    QCOMPARE(after.startColor, before.startColor);
+    QCOMPARE(after.ground, QColor(Qt::yellow));
+}
+
+void TestPoster::aDragIsOneUndo()
+{
+    PosterWindow window;
+    window.show();
+    window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QUndoStack *stack = window.poster()->undoStack();
+    auto *slider = window.findChild<TavikSlider *>();
+    const auto drag = [&](int from, int to) {
+        const int y = slider->height() / 2;
+        const auto place = [&](int x) { return slider->mapTo(&window, QPoint(x, y)); };
+        QTest::mousePress(window.windowHandle(), Qt::LeftButton, {}, place(from));
+        for (int x = from; x != to; x += to > from ? 1 : -1)
+            QTest::mouseMove(window.windowHandle(), place(x));
+        QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, {}, place(to));
+    };
+    drag(slider->width() - 11, 100);
+    const int opacity = window.poster()->settings().opacity;
+    QVERIFY(opacity > 30 && opacity < 70);
+    drag(100, 60);
+    QVERIFY(window.poster()->settings().opacity < opacity);
+    QCOMPARE(stack->count(), 2);
+
+    withText<TavikButton>(window, "Undo"_s)->click();
+    QCOMPARE(slider->value(), opacity);
+    // The shortcut too, while a field has the focus that has an undo of its own.
+    auto *caption = withText<TavikLineEdit>(window, "Above the clouds"_s);
+    QTest::keyClicks(caption, "!?"_s);
+    QCOMPARE(stack->undoText(), "caption"_s);
+    caption->setFocus();
+    QTest::keySequence(window.windowHandle(), QKeySequence::Undo);
+    QCOMPARE(caption->text(), "Above the clouds"_s);
+    QTest::keySequence(window.windowHandle(), QKeySequence::Undo);
+    QCOMPARE(slider->value(), 100);
+    QVERIFY(!window.isWindowModified());
+    withText<TavikButton>(window, "Redo"_s)->click();
+    QCOMPARE(slider->value(), opacity);
+}
+
+void TestPoster::theWheelScrollsThePanels()
+{
+    PosterWindow window;
+    window.show();
+    QTRY_VERIFY(window.findChild<TavikScrollArea *>()->verticalScrollBar()->maximum() > 0);
+    Support::turnWheel(window.findChild<TavikFontFamilyComboBox *>());
+    QCOMPARE(window.poster()->undoStack()->count(), 0);
+    QVERIFY(window.findChild<TavikScrollArea *>()->verticalScrollBar()->value() > 0);
+}
+
+void TestPoster::settingsAreSavedAndOpened()
+{
+    const QTemporaryDir directory;
+    QVERIFY(QDir(directory.path()).mkdir("inner"_s));
+    const QString file = directory.filePath("poster.json"_s);
+    PosterWindow first;
+    first.addPhotographs({writePhotograph(directory)});
+    first.poster()->edit("all"_s, [](PosterSettings &s) {
+        s.hasGradient = s.isBold = false;
+        s.isBatch = true;
+        s.ground = QColor(1, 2, 3, 4);
+        s.startValue = 40;
+        s.angle = 359;
+        s.opacity = 0;
+        s.caption = "\"Grüße\"\n"_s;
+        s.family = "Serif"_s;
+        s.captionSize = 7.25;
+        s.captionColumn = 2;
+        s.captionRow = 0;
+        s.width = 16;
+        s.batch = QStringList{"a4"_s};
+    });
+    QVERIFY(first.isWindowModified());
+    QVERIFY(first.saveSettings(file));
+    QVERIFY(!first.isWindowModified());
+
+    PosterWindow second;
+    second.openSettings(file);
+    QCOMPARE(second.message(), QString());
+    QVERIFY(second.poster()->settings() == first.poster()->settings());
+    QCOMPARE(second.findChild<TavikImageList *>()->count(), Photograph::ownNames().size() + 1);
+    second.poster()->undoStack()->undo(); // even opening is no loss
+    QVERIFY(second.poster()->settings() == PosterSettings());
+    QVERIFY(!first.saveSettings(directory.filePath("nowhere/poster.json"_s)));
+    QVERIFY(first.message().contains("nowhere"_s));
+}
+
+void TestPoster::brokenSettings_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("reason");
+    const QTemporaryDir directory;
+    const QString path = directory.filePath("poster.json"_s);
+    QCOMPARE(SettingsFile(path).write(PosterSettings()), QString());
+    const QByteArray sound = readFile(path);
+    QTest::newRow("empty") << QByteArray() << "not JSON"_s;
+    QTest::newRow("half") << sound.left(sound.size() / 2) << "not JSON"_s;
+    QTest::newRow("no object") << QByteArray("[1]") << "holds no poster"_s;
+    QTest::newRow("empty object") << QByteArray("{}") << "missing"_s;
+
+    const auto row = [&](const char *section, const char *field, const QJsonValue &value,
+                         const QString &reason) {
+        QJsonObject json = QJsonDocument::fromJson(sound).object();
+        QJsonObject fields = json.value(QString::fromLatin1(section)).toObject();
+        fields.insert(QString::fromLatin1(field), value);
+        json.insert(QString::fromLatin1(section), fields);
+        QTest::addRow("%s.%s: %s", section, field, qPrintable(reason))
+            << QJsonDocument(json).toJson() << reason;
+    };
+    row("gradient", "angle", QJsonValue::Undefined, "\"gradient.angle\" is missing"_s);
+    row("gradient", "angle", "30"_s, "must be a number"_s);
+    row("gradient", "angle", 360, "must be from 0 to 359, and is 360"_s);
+    row("gradient", "angle", 1e300, "must be from 0 to 359"_s);
+    row("gradient", "angle", 1.5, "must be a whole number"_s);
+    row("gradient", "end", 5, "must be from 6 to 100"_s);
+    row("gradient", "shown", 1, "must be true or false"_s);
+    row("gradient", "start-color", "green"_s, "must be a colour"_s);
+    row("caption", "text", QJsonValue::Null, "must be a text"_s);
+    row("caption", "row", "upper"_s, "must be one of top, middle, bottom"_s);
+    row("export", "width", 0, "must be from 16"_s);
+    row("export", "sizes", "a4"_s, "must be a list"_s);
+    row("export", "sizes", QJsonArray{"a4"_s, 3}, "may hold nothing but full-hd"_s);
+    row("photograph", "file", QString(), "must name a photograph"_s);
+    row("photograph", "file", "gone.png"_s, "gone.png can't be read"_s);
+    row("photograph", "file", "own:gone"_s, "no photograph"_s);
+}
+
+void TestPoster::brokenSettings()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(QString, reason);
+    const QTemporaryDir directory;
+    const QString path = directory.filePath("poster.json"_s);
+    PosterSettings mine;
+    mine.caption = "Mine"_s;
+    const PosterSettings before = mine;
+    QVERIFY(SettingsFile(path).read(mine).contains(path)); // it isn't there yet
+    writeFile(path, content);
+    const QString fault = SettingsFile(path).read(mine);
+    QVERIFY2(fault.contains(path) && fault.contains(reason), qPrintable(fault));
+    QVERIFY(mine == before);
+}
+
+void TestPoster::aBrokenFileLosesNothing()
+{
+    const QTemporaryDir directory;
+    const QString settings = directory.filePath("poster.json"_s);
+    const QString photograph = directory.filePath("broken.png"_s);
+    const QString good = writePhotograph(directory);
+    writeFile(settings, "{");
+    writeFile(photograph, "no picture");
+    PosterWindow window;
+    window.addPhotographs({good, photograph});
+    QVERIFY(window.message().contains("broken.png"_s));
+    QCOMPARE(window.poster()->settings().photograph, good);
+    window.openSettings(settings);
+    QVERIFY(window.message().contains("poster.json"_s));
+    QCOMPARE(window.poster()->settings().photograph, good);
+    QCOMPARE(window.poster()->undoStack()->count(), 1);
+}
+
+void TestPoster::cancelledBatch()
+{
+    const QTemporaryDir directory;
+    const QString old = directory.filePath("p-1080x1080.png"_s);
+    writeFile(old, "old");
+    PosterWindow window;
+    withText<TavikRadioButton>(window, "Several sizes:"_s)->click();
+    auto *cancel = withText<TavikButton>(window, "Cancel"_s);
+    connect(window.exporter(), &Exporter::progressed, cancel, [=](int done) {
+        if (done == 1)
+            cancel->click();
+    });
+    QVERIFY(exported(window, directory.filePath("p.png"_s)).contains("1 of 3"_s));
+    QVERIFY(!window.exporter()->isBusy());
+    QTest::qWait(1); // nothing follows
+    QCOMPARE(QDir(directory.path()).entryList(QDir::Files | QDir::Hidden),
+             QStringList({"p-1080x1080.png"_s, "p-1920x1080.png"_s}));
+    QVERIFY(!QImage(directory.filePath("p-1920x1080.png"_s)).isNull());
+    QCOMPARE(QFileInfo(old).size(), 3);
+}
+
+void TestPoster::unwritableExport()
+{
+    const QTemporaryDir directory;
+    PosterWindow window;
+    const QString message = exported(window, directory.filePath("nowhere/p.png"_s));
+    QVERIFY2(message.contains("nowhere"_s), qPrintable(message));
+    QVERIFY(!window.exporter()->isBusy());
+}
+
+void TestPoster::nothingIsClipped_data()
+{
+    QTest::addColumn<int>("rem");
+    for (int rem : Support::rems)
+        QTest::addRow("%d", rem) << rem;
+}
+
+void TestPoster::nothingIsClipped()
+{
+    QFETCH(int, rem);
+    LenConverter::m_rem = rem;
+    PosterWindow window;
+    for (TavikExpandable *panel : window.findChildren<TavikExpandable *>())
+        panel->expand();
+    window.resize(PosterWindow::goodSize());
+    QSignalSpy settled(&window, &PosterWindow::settled);
+    window.show();
+    QVERIFY(settled.wait());
+    window.grab();
+    QString problem;
+    QVERIFY(Support::lookForFaults(window, &problem) > 40);
+    QVERIFY2(problem.isEmpty(), qPrintable(problem));
+    auto *list = window.findChild<TavikImageList *>();
+    QCOMPARE(list->visualItemRect(list->item(2)).top(), list->visualItemRect(list->item(0)).top());
+    QVERIFY(!list->verticalScrollBar()->isVisible());
+}
+
+void TestPoster::commandLine()
+{
+    const QTemporaryDir directory;
+    const auto run = [&](const QStringList &arguments) {
+        QProcess poster;
+        poster.start(QStringLiteral(TAVIK_POSTER), arguments);
+        poster.waitForFinished();
+        return poster.exitStatus() == QProcess::NormalExit ? poster.exitCode() : -1;
+    };
+    const QString file = directory.filePath("window.png"_s);
+    QCOMPARE(run({"--rem"_s, "18"_s, "--picture"_s, file}), 0);
+    QCOMPARE(QImage(file).size(), QSize(118 * 18, 68 * 18));
+    QCOMPARE(run({"--picture"_s, directory.filePath("nowhere/window.png"_s)}), 1);
+    QCOMPARE(run({"--rem"_s, "11"_s, "--picture"_s, file}), 2);
+}
+
+TAVIK_TEST_MAIN(TestPoster)
+#include "tst_poster.moc"
