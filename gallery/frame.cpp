@@ -10,7 +10,6 @@
 #include <QScrollArea>
 
 #include <Tavik/LenConverter>
-#include <Tavik/TavikContainer>
 #include <Tavik/TavikLabel>
 
 namespace {
@@ -61,8 +60,14 @@ void Frame::showProblems(const QStringList &problems)
 {
     if (problems.isEmpty())
         return;
-    auto *strip = new TavikContainer(Horizontal, QStringLiteral("#fff4ce"), QStringLiteral("0"), QString());
-    strip->addWidget(Look::paragraph(problems.join(QLatin1Char('\n'))));
+    auto *strip = new QWidget;
+    strip->setAutoFillBackground(true);
+    strip->setPalette(QPalette(Look::Warning));
+    auto *layout = new QVBoxLayout(strip);
+    const int gap = LenConverter::remToPx(Look::Gap);
+    layout->setContentsMargins(gap, gap / 2, gap, gap / 2);
+    for (const QString &problem : problems)
+        layout->addWidget(Look::paragraph(problem));
     m_layout->addWidget(strip, 2, 0, 1, 2);
 }
 

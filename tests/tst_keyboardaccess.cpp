@@ -243,11 +243,15 @@ void TestKeyboardAccess::tabOrderOfThePopup()
 void TestKeyboardAccess::mark()
 {
     Stage<TavikColorWell> stage;
+    type({Qt::Key_Home});
     QCOMPARE(marked(stage.window), QRect(21, 21, 16, 16));
     type({Qt::Key_Down, Qt::Key_Right});
     QCOMPARE(marked(stage.window), QRect(44, 44, 16, 16));
-    QTest::mouseClick(stage.control, Qt::LeftButton, {}, QPoint(50, 5)); // where the mouse was, keys go on
-    QCOMPARE(marked(stage.window), QRect(67, 21, 16, 16));
+    QTest::mouseClick(stage.control, Qt::LeftButton, {}, QPoint(50, 5));
+    QTest::keyPress(stage.control, Qt::Key_Shift);
+    QCOMPARE(marked(stage.window), QRect()); // who uses the mouse needs none
+    type({Qt::Key_Right});                   // but keys go on where the mouse was
+    QCOMPARE(marked(stage.window), QRect(90, 21, 16, 16));
 
     TavikButton button(QStringLiteral("Text"), TavikButton::Solid, &stage.window);
     button.setGeometry(20, 100, 80, 30);
@@ -307,6 +311,7 @@ void TestKeyboardAccess::controlsGoWhileFocused()
         control->setParent(&stage.window);
         control->show();
         control->setFocus();
+        QTest::keyClick(control, Qt::Key_F2);
         QVERIFY(!marked(stage.window).isNull());
         delete control;
         QVERIFY(marked(stage.window).isNull());

@@ -4,8 +4,11 @@
 
 #include <QApplication>
 #include <QTextStream>
+#include <QTranslator>
 
 #include <Tavik/LenConverter>
+#include <Tavik/TavikKeyboardAccess>
+#include <Tavik/TavikSelfCheck>
 
 namespace {
 
@@ -15,6 +18,13 @@ int fail(const QString &message, ExitCode code)
 {
     QTextStream(stderr) << message << Qt::endl;
     return code;
+}
+
+/// For whoever starts it from a terminal: what is missing on this machine.
+void reportProblems()
+{
+    for (const QString &problem : TavikSelfCheck::problems())
+        QTextStream(stderr) << problem << Qt::endl;
 }
 
 /// Writes a picture of the window, once its panels stand still, and ends.
@@ -45,11 +55,17 @@ int main(int argc, char **argv)
     LenConverter::initRem(); // before the first control
     if (commandLine.rem() > 0)
         LenConverter::m_rem = commandLine.rem();
+    QTranslator tavik; // the library never loads its translations by itself
+    if (tavik.load(QLocale(), QStringLiteral("tavik"), QStringLiteral("_"),
+                   QStringLiteral(TAVIK_TRANSLATIONS)))
+        app.installTranslator(&tavik);
     PosterWindow window;
+    TavikKeyboardAccess::install(&window); // before it is shown, and for all that comes into it later
     if (!commandLine.settings().isEmpty())
         window.openSettings(commandLine.settings());
     if (!commandLine.picture().isEmpty())
         return writePicture(window, commandLine.picture());
+    reportProblems();
     window.show();
     return QApplication::exec();
 }

@@ -27,21 +27,36 @@ QWidget *marked(QWidget *focused)
 
 void FocusMark::install()
 {
-    if (!qApp->findChild<FocusMark *>(QString(), Qt::FindDirectChildrenOnly))
+    if (!instance())
         new FocusMark(qApp);
+}
+
+void FocusMark::setKeysInUse(bool inUse)
+{
+    FocusMark *mark = instance();
+    if (mark->m_keysInUse == inUse)
+        return;
+    mark->m_keysInUse = inUse;
+    mark->update();
 }
 
 FocusMark::FocusMark(QObject *parent)
     : QObject(parent)
 {
-    connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *now) { follow(now); });
+    connect(qApp, &QApplication::focusChanged, this, &FocusMark::update);
 }
 
-void FocusMark::follow(QWidget *focused)
+FocusMark *FocusMark::instance()
 {
-    // Made anew for each: a frame asks the widget that it is around, which may go before it.
+    return qApp->findChild<FocusMark *>(QString(), Qt::FindDirectChildrenOnly);
+}
+
+void FocusMark::update()
+{
+    // Made anew for each widget: a frame asks the one that it is around, which may go before it.
     delete m_frame;
-    if (!focused || showsFocus(focused) || !KeyboardFilter::covers(focused))
+    QWidget *focused = QApplication::focusWidget();
+    if (!m_keysInUse || !focused || showsFocus(focused) || !KeyboardFilter::covers(focused))
         return;
     QWidget *around = marked(focused);
     m_frame = new QFocusFrame(around);

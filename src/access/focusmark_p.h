@@ -4,7 +4,8 @@
 #include <QFocusFrame>
 #include <QPointer>
 
-/// The frame around what has the focus, wherever there is keyboard access.
+/// The frame around what has the focus, wherever there is keyboard access. It shows from the first key on,
+/// and until the mouse is used.
 class FocusMark : public QObject
 {
     Q_OBJECT
@@ -13,11 +14,16 @@ public:
     /// Makes the one mark of the application, unless there is one.
     static void install();
 
+    /// Tells the mark what is used: keys, or the mouse.
+    static void setKeysInUse(bool inUse);
+
 private:
     explicit FocusMark(QObject *parent);
 
-    void follow(QWidget *focused);
+    static FocusMark *instance();
+    void update();
 
+    bool m_keysInUse = false;
     QPointer<QFocusFrame> m_frame; // a child of the window that it is in
 };
 

@@ -1,5 +1,6 @@
 #include "keyboardfilter_p.h"
 
+#include "focusmark_p.h"
 #include "partkeys_p.h"
 #include "popupkeys_p.h"
 #include "squarekeys_p.h"
@@ -8,10 +9,16 @@
 #include "tavikexpandable.h"
 #include "titlekeys_p.h"
 
-#include <QChildEvent>
+#include <QKeyEvent>
 #include <QWidget>
 
 namespace {
+
+/// A key that may as well belong to a click.
+bool isModifier(int key)
+{
+    return key == Qt::Key_Shift || key == Qt::Key_Control || key == Qt::Key_Alt || key == Qt::Key_Meta;
+}
 
 template <typename Keys>
 bool has(const QWidget *control)
@@ -52,11 +59,23 @@ bool KeyboardFilter::covers(const QWidget *widget)
 
 bool KeyboardFilter::eventFilter(QObject *, QEvent *event)
 {
-    // A widget that is added while it is constructed is not yet what it will be; it is polished later.
-    if (event->type() == QEvent::ChildAdded || event->type() == QEvent::ChildPolished) {
+    switch (event->type()) {
+    case QEvent::ChildAdded: // while it is constructed, it is not yet what it will be; it is polished later
+    case QEvent::ChildPolished: {
         QObject *child = static_cast<QChildEvent *>(event)->child();
         if (child->isWidgetType())
             cover(static_cast<QWidget *>(child));
+        break;
+    }
+    case QEvent::KeyPress:
+        if (!isModifier(static_cast<QKeyEvent *>(event)->key()))
+            FocusMark::setKeysInUse(true);
+        break;
+    case QEvent::MouseButtonPress:
+        FocusMark::setKeysInUse(false);
+        break;
+    default:
+        break;
     }
     return false;
 }

@@ -20,8 +20,8 @@ class QWidget;
 /// | Expandable panel | Space or Return on its title opens and closes it. |
 /// | Screen sampler | Arrows one pixel, Page Up, Page Down and arrows with Shift ten; Return or Space picks, Escape leaves. |
 ///
-/// A popup begins with its square, and Tab goes through it from top to bottom. A frame stands around
-/// whatever has the focus, unless that shows a text cursor. Where the platform doesn't let an application
+/// A popup begins with its square, and Tab goes through it from top to bottom. While keys are used, a
+/// frame stands around whatever has the focus, unless that shows a text cursor. Where the platform doesn't let an application
 /// move the pointer, the sampler's frame moves without it.
 ///
 /// Without a call of install() all controls keep the keys that the toolkit gives them.
