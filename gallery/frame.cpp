@@ -62,7 +62,9 @@ void Frame::showProblems(const QStringList &problems)
         return;
     auto *strip = new QWidget;
     strip->setAutoFillBackground(true);
-    strip->setPalette(QPalette(Look::Warning));
+    QPalette palette = strip->palette();
+    palette.setColor(QPalette::Window, Look::Warning);
+    strip->setPalette(palette);
     auto *layout = new QVBoxLayout(strip);
     const int gap = LenConverter::remToPx(Look::Gap);
     layout->setContentsMargins(gap, gap / 2, gap, gap / 2);
