@@ -37,8 +37,8 @@ QVector<Row> table()
     for (const QString &text : QString::fromUtf8(page.readAll()).split(QLatin1Char('\n'))) {
         const auto match = line.match(text);
         if (match.hasMatch())
-            rows.append({match.captured(1), match.captured(2), match.captured(3), match.captured(4),
-                         match.captured(5)});
+            rows.append({match.captured(1), QColor(match.captured(2)), QColor(match.captured(3)),
+                         match.captured(4), match.captured(5)});
     }
     return rows;
 }
@@ -102,7 +102,7 @@ void TestContrast::nothingIsMissing()
     QFETCH(QString, sheet);
     QSet<QString> shown; // as text, and as text on a ground
     for (const Row &row : table()) {
-        if (row.control == QTest::currentDataTag())
+        if (row.control == QLatin1String(QTest::currentDataTag()))
             shown << row.text.name() << row.text.name() + row.ground.name();
     }
     static const QRegularExpression rule(
