@@ -1,0 +1,29 @@
+#include "actions.h"
+
+#include <numeric>
+
+namespace {
+
+std::vector<Action> allActions()
+{
+    std::vector<Action> all;
+    for (const std::vector<Action> &family : {Actions::pointer(), Actions::keyboard(), Actions::setters(),
+                                              Actions::windows(), Actions::lifetimes()}) {
+        all.insert(all.end(), family.begin(), family.end());
+    }
+    return all;
+}
+
+} // namespace
+
+const Action &Actions::pick(Random &random)
+{
+    static const std::vector<Action> all = allActions();
+    static const int weights =
+        std::accumulate(all.begin(), all.end(), 0, [](int sum, const Action &action) { return sum + action.weight; });
+    int left = random.below(weights);
+    auto action = all.begin();
+    while (left >= action->weight)
+        left -= (action++)->weight;
+    return *action;
+}

@@ -1,0 +1,28 @@
+#ifndef TAVIK_TESTS_STORM_BUSY_H
+#define TAVIK_TESTS_STORM_BUSY_H
+
+#include <QPointer>
+
+#include <vector>
+
+class QWidget;
+
+/// Marks an object as in the middle of an event, of a signal or of a call, as long as the mark lives.
+///
+/// Deleting a widget right there is a fault of whoever does it, because the toolkit still needs it: only push
+/// buttons, and the groups that hold them, are safe.
+class Busy
+{
+public:
+    explicit Busy(QObject *object) { objects().emplace_back(object); }
+    ~Busy() { objects().pop_back(); }
+    Q_DISABLE_COPY_MOVE(Busy)
+
+    /// Whether a widget must be kept until what goes on is over.
+    static bool needs(const QWidget *widget);
+
+private:
+    static std::vector<QPointer<QObject>> &objects();
+};
+
+#endif

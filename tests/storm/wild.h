@@ -1,0 +1,83 @@
+#ifndef TAVIK_TESTS_STORM_WILD_H
+#define TAVIK_TESTS_STORM_WILD_H
+
+#include "random.h"
+
+#include <QColor>
+#include <QDebug>
+#include <QIcon>
+#include <QPoint>
+#include <QSize>
+#include <QStringList>
+#include <QVector>
+
+#include <algorithm>
+#include <type_traits>
+
+/// Arguments as nobody should pass them, among some that are right.
+namespace Wild {
+
+/// An argument, and how the log tells it.
+template <class T>
+struct Drawn
+{
+    T value;
+    QString text;
+};
+
+double number(Random &random);
+int integer(Random &random);
+QString text(Random &random);
+QColor color(Random &random);
+Drawn<QIcon> icon(Random &random);
+
+/// Pixels that stay small: what is only large would test the memory of the machine.
+int pixels(Random &random);
+
+/// Draws an argument by its type.
+template <class T>
+Drawn<T> draw(Random &random)
+{
+    const auto told = [](const auto &value) {
+        QString text;
+        QDebug(&text).nospace() << value;
+        return text;
+    };
+    if constexpr (std::is_same_v<T, QIcon>) {
+        return icon(random);
+    } else if constexpr (std::is_enum_v<T>) {
+        const int value = random.between(-2, 7);
+        return {T(value), told(value)};
+    } else {
+        T value{};
+        if constexpr (std::is_same_v<T, bool>)
+            value = random.oneIn(2);
+        else if constexpr (std::is_same_v<T, int>)
+            value = integer(random);
+        else if constexpr (std::is_same_v<T, double>)
+            value = number(random);
+        else if constexpr (std::is_same_v<T, QString>)
+            value = text(random);
+        else if constexpr (std::is_same_v<T, QColor>)
+            value = color(random);
+        else if constexpr (std::is_same_v<T, Qt::Alignment>)
+            value = Qt::Alignment(random.below(0x400));
+        else if constexpr (std::is_same_v<T, QStringList>)
+            value << text(random) << text(random) << text(random);
+        else if constexpr (std::is_same_v<T, QVector<QColor>>)
+            std::generate_n(std::back_inserter(value), random.below(5), [&] { return color(random); });
+        else if constexpr (std::is_same_v<T, QSizeF>)
+            value.rwidth() = number(random), value.rheight() = number(random);
+        else if constexpr (std::is_same_v<T, QSize>)
+            value.rwidth() = pixels(random), value.rheight() = pixels(random);
+        else if constexpr (std::is_same_v<T, QPoint>)
+            value.rx() = integer(random), value.ry() = integer(random);
+        else
+            static_assert(!sizeof(T), "No way to draw this type");
+        return {value, told(value)};
+    }
+}
+
+} // namespace Wild
+
+#endif
