@@ -351,7 +351,7 @@ void TavikColorPopup::onAddColorWellRequested()
 
 void TavikColorPopup::onClickPickColor()
 {
-    Screenshot *previous = m_screenshot;
+    const QPointer<Screenshot> previous = m_screenshot;
     // It shows itself and so closes this popup, while m_screenshot still tells of the run before.
     m_screenshot = new Screenshot(nullptr);
     connect(m_screenshot, SIGNAL(screenColor(QColor)), this, SLOT(onPickColorChanged(QColor)));
@@ -361,7 +361,7 @@ void TavikColorPopup::onClickPickColor()
 
 void TavikColorPopup::onPickColorChanged(const QColor &color)
 {
-    Screenshot *finished = m_screenshot;
+    const QPointer<Screenshot> finished = m_screenshot;
     setCurrentColor(color);
     Q_EMIT colorChanged(color);
     if (finished && m_screenshot == finished) {
@@ -395,11 +395,14 @@ void TavikColorPopup::adjustPosition()
 {
     const QScreen *screen = QGuiApplication::primaryScreen();
     const int screenHeight = screen ? screen->size().height() : 0;
-    const bool hasRoomBelow = height() - 1 + m_shadowRadius + 6 < screenHeight - m_anchor.y();
+    // No screen reaches as far as that, so a point beyond is out of sight either way.
+    const int anchorX = qBound(-QWIDGETSIZE_MAX, m_anchor.x(), QWIDGETSIZE_MAX);
+    const int anchorY = qBound(-QWIDGETSIZE_MAX, m_anchor.y(), QWIDGETSIZE_MAX);
+    const bool hasRoomBelow = height() - 1 + m_shadowRadius + 6 < screenHeight - anchorY;
     initDrawElements(hasRoomBelow);
-    const int x = m_anchor.x() - m_arrowTip - m_shadowRadius;
-    const int above = m_anchor.y() - height() - m_arrowHeight + m_shadowRadius;
-    move(x, hasRoomBelow ? m_anchor.y() : above);
+    const int x = anchorX - m_arrowTip - m_shadowRadius;
+    const int above = anchorY - height() - m_arrowHeight + m_shadowRadius;
+    move(x, hasRoomBelow ? anchorY : above);
 }
 
 void TavikColorPopup::initDrawElements(bool arrowUp)
