@@ -351,12 +351,14 @@ void TavikColorPopup::onAddColorWellRequested()
 
 void TavikColorPopup::onClickPickColor()
 {
-    const QPointer<Screenshot> previous = m_screenshot;
     // It shows itself and so closes this popup, while m_screenshot still tells of the run before.
-    m_screenshot = new Screenshot(nullptr);
-    connect(m_screenshot, SIGNAL(screenColor(QColor)), this, SLOT(onPickColorChanged(QColor)));
-    if (previous)
-        previous->deleteLater(); // it may be in the middle of its own signal
+    auto *started = new Screenshot(nullptr);
+    connect(started, SIGNAL(screenColor(QColor)), this, SLOT(onPickColorChanged(QColor)));
+    // The run before, or one that was started when this popup told of its closing. It may be in the middle of
+    // its own signal.
+    if (m_screenshot)
+        m_screenshot->deleteLater();
+    m_screenshot = started;
 }
 
 void TavikColorPopup::onPickColorChanged(const QColor &color)

@@ -11,6 +11,10 @@
 #include <cstdio>
 #include <cstdlib>
 
+#ifdef __SANITIZE_ADDRESS__
+#include <sanitizer/common_interface_defs.h>
+#endif
+
 namespace {
 
 /// What the toolkit says of arguments that nobody should pass, or of what the headless platform cannot do.
@@ -18,7 +22,16 @@ const char *const expectedMessages[] = {
     "^This plugin does not support",
     "^Could not parse (stylesheet|application stylesheet)",
     "^QFont::setPixelSize: Pixel size <= 0",
-    "^QColor::",
+    "^\"?QColor::",
+    "^QWidget::set(Minimum|Maximum)Size: ",
+    "^QPainter::begin: Paint device returned engine == 0, type: 3", // a picture too large to be made
+    "^QWidgetLineControl::setSelection: Invalid start position",     // a third click, where the text is gone
+    "^Setting a QCompleter on non-editable QComboBox",
+    "^QCssParser::parseHexColor: Unknown color name",
+    "^QFSFileEngine::open: No file name specified",
+    "^Cannot open file '.*\\.svg', because: No such file",
+    "^QLayout: Cannot add a null widget",
+    "^QStandardPaths: XDG_RUNTIME_DIR not set",
 };
 
 bool isExpected(const QString &message)
@@ -77,6 +90,9 @@ void checkPopup(const TavikColorPopup *popup)
 void Finding::end(const QString &what)
 {
     std::fprintf(stderr, "Finding: %s\n", qPrintable(what));
+#ifdef __SANITIZE_ADDRESS__
+    __sanitizer_print_stack_trace();
+#endif
     std::_Exit(exitCode);
 }
 
@@ -103,7 +119,8 @@ void Finding::checkSettled()
 
 void Finding::checkNothingIsLeft()
 {
-    const QWidgetList left = QApplication::allWidgets();
-    if (!left.isEmpty())
-        end(QLatin1String(left.first()->metaObject()->className()) + QLatin1String(" is left over"));
+    for (const QWidget *widget : QApplication::allWidgets()) {
+        if (widget->windowType() != Qt::Desktop) // the toolkit's own
+            end(QLatin1String(widget->metaObject()->className()) + QLatin1String(" is left over"));
+    }
 }

@@ -88,6 +88,8 @@ protected:
     {
         // A deed that processes events must not bring the next one forward.
         killTimer(event->timerId());
+        // The loop may be late with them after events were processed within a deed.
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         Finding::checkSettled();
         while (m_step < m_options.to) {
             Random random(m_options.seed, quint64(m_step));
@@ -127,6 +129,7 @@ int main(int argc, char **argv)
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     const Application app(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setStyle(QStringLiteral("Fusion"));
     const Options options = readOptions(app);
     Finding::listenToMessages();

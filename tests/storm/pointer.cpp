@@ -163,7 +163,7 @@ Deed wheel(Random &random)
                              .arg(turn.y());
     return {text, [=](Stage &stage) {
                 const QPointer<QWidget> control = stage.at(slot);
-                const QVariant before = control->property("value");
+                const QString before = control->property("value").toString(); // a NaN equals nothing
                 const QPoint pos = place.in(control);
                 QWidget *child = control->childAt(pos);
                 QWidget *receiver = child ? child : control.data();
@@ -172,7 +172,7 @@ Deed wheel(Random &random)
                                   Qt::NoModifier, Qt::NoScrollPhase, false);
                 QSpontaneKeyEvent::setSpontaneous(&event);
                 qApp->notify(receiver, &event);
-                if (control && leavesTheWheel(control) && control->property("value") != before)
+                if (control && leavesTheWheel(control) && control->property("value").toString() != before)
                     Finding::end(QStringLiteral("The wheel has changed the value"));
             }};
 }

@@ -201,7 +201,7 @@ const std::vector<Setter> &setterTable()
         CALL(TavikSlider, setOrientation),
         CALL(TavikSlider, setInvertedAppearance),
 
-        CALL(TavikDial, setRange),
+        // No range: the toolkit's dial divides by 0 over the whole range of int.
         CALL(TavikDial, setValue),
         CALL(TavikDial, setWrapping),
         CALL(TavikDial, setNotchesVisible),
