@@ -9,20 +9,30 @@ class QWidget;
 
 /// Marks an object as in the middle of an event, of a signal or of a call, as long as the mark lives.
 ///
-/// Deleting a widget right there is a fault of whoever does it, because the toolkit still needs it: only push
-/// buttons, and the groups that hold them, are safe.
+/// Deleting a widget right there is a fault of whoever does it, because the toolkit still needs it.
 class Busy
 {
 public:
-    explicit Busy(QObject *object) { objects().emplace_back(object); }
-    ~Busy() { objects().pop_back(); }
+    /// What may be deleted in spite of the mark.
+    enum Survival {
+        Buttons, ///< Push buttons, and the groups that hold them.
+        Nothing,
+    };
+
+    explicit Busy(QObject *object, Survival survival = Buttons) { marks().push_back({object, survival}); }
+    ~Busy() { marks().pop_back(); }
     Q_DISABLE_COPY_MOVE(Busy)
 
     /// Whether a widget must be kept until what goes on is over.
     static bool needs(const QWidget *widget);
 
 private:
-    static std::vector<QPointer<QObject>> &objects();
+    struct Mark
+    {
+        QPointer<QObject> object;
+        Survival survival;
+    };
+    static std::vector<Mark> &marks();
 };
 
 #endif

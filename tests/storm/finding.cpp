@@ -24,12 +24,11 @@ const char *const expectedMessages[] = {
     "^QFont::setPixelSize: Pixel size <= 0",
     "^\"?QColor::",
     "^QWidget::set(Minimum|Maximum)Size: ",
-    "^QPainter::begin: Paint device returned engine == 0, type: 3", // a picture too large to be made
     "^QWidgetLineControl::setSelection: Invalid start position",     // a third click, where the text is gone
     "^Setting a QCompleter on non-editable QComboBox",
     "^QCssParser::parseHexColor: Unknown color name",
     "^QFSFileEngine::open: No file name specified",
-    "^Cannot open file '.*\\.svg', because: No such file",
+    "^Cannot open file '",
     "^QLayout: Cannot add a null widget",
     "^QStandardPaths: XDG_RUNTIME_DIR not set",
 };

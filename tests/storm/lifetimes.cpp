@@ -152,6 +152,14 @@ Deed construct(Random &random)
 
 // ---- One inside another ----
 
+void putIntoScrollArea(Stage &stage, QWidget *control)
+{
+    auto *area = stage.control<TavikScrollArea>();
+    if (QWidget *former = area->takeWidget()) // it would be deleted at once
+        former->setParent(stage.window());
+    area->setWidget(control);
+}
+
 /// Moves a control into a container, a panel or a scroll area, with which it goes from then on; or back.
 Deed nest(Random &random)
 {
@@ -172,8 +180,8 @@ Deed nest(Random &random)
                     static_cast<TavikContainer *>(homes[0])->addWidget(control);
                 else if (place == 1)
                     static_cast<TavikExpandable *>(homes[1])->addWidget(control);
-                else if (static_cast<TavikScrollArea *>(homes[2])->widget() != control)
-                    static_cast<TavikScrollArea *>(homes[2])->setWidget(control);
+                else
+                    putIntoScrollArea(stage, control);
             }};
 }
 
@@ -183,13 +191,14 @@ struct Signal
 {
     const char *className;
     const char *name;
+    Busy::Survival survival;
     std::function<QMetaObject::Connection(QWidget *, QObject *, std::function<void()>)> connect;
 };
 
 template <class Class, class Owner, class... Arguments>
-Signal signal(const char *name, void (Owner::*member)(Arguments...))
+Signal signal(const char *name, void (Owner::*member)(Arguments...), Busy::Survival survival = Busy::Buttons)
 {
-    return {Class::staticMetaObject.className(), name,
+    return {Class::staticMetaObject.className(), name, survival,
             [member](QWidget *control, QObject *context, const std::function<void()> &slot) {
                 return QObject::connect(static_cast<Class *>(control), member, context, slot);
             }};
@@ -204,7 +213,7 @@ const std::vector<Signal> &signalTable()
         SIGNAL_OF(TavikButton, pressed),
         SIGNAL_OF(TavikButton, released),
         SIGNAL_OF(TavikButton, clicked),
-        SIGNAL_OF(TavikButton, toggled),
+        signal<TavikButton>("toggled", &TavikButton::toggled, Busy::Nothing),
         SIGNAL_OF(TavikButtonGroup, buttonClicked),
         SIGNAL_OF(TavikCheckBox, toggled),
         SIGNAL_OF(TavikRadioButton, toggled),
@@ -250,7 +259,7 @@ Deed trap(Random &random)
                 const auto connection = std::make_shared<QMetaObject::Connection>();
                 *connection = signal.connect(control, stage.wires(), [=, &stage] {
                     QObject::disconnect(*connection);
-                    const Busy busy(control);
+                    const Busy busy(control, signal.survival);
                     inner.act(stage);
                 });
             }};

@@ -58,25 +58,44 @@ Setter setter(const char *name, Result (Owner::*member)(Arguments...) const)
             })};
 }
 
-/// A call with pixels instead of any number.
+/// Calls whose arguments stay within what a picture can be made of, as the control makes one.
 template <class Class, class Owner>
-Setter pixelSetter(const char *name, void (Owner::*member)(int))
+Setter smallSetter(const char *name, void (Owner::*member)(int))
 {
     return {Class::staticMetaObject.className(), name, [member](Random &random) {
                 const int px = Wild::pixels(random);
-                return Call{QString::number(px), [=](QWidget *widget) {
-                                (static_cast<Class *>(widget)->*member)(px);
-                            }};
+                return Call{QString::number(px),
+                            [=](QWidget *widget) { (static_cast<Class *>(widget)->*member)(px); }};
+            }};
+}
+
+template <class Class, class Owner>
+Setter smallSetter(const char *name, void (Owner::*member)(double))
+{
+    return {Class::staticMetaObject.className(), name, [member](Random &random) {
+                const double rem = Wild::length(random);
+                return Call{QString::number(rem),
+                            [=](QWidget *widget) { (static_cast<Class *>(widget)->*member)(rem); }};
             }};
 }
 
 #define CALL(Class, member) setter<Class>(#member, &Class::member)
 #define CALL_AS(Class, member, ...) setter<Class>(#member, qOverload<__VA_ARGS__>(&Class::member))
 
-/// Rem sizes. They stay below what a screen shows: a control draws pictures of its own size.
 #define REM_SIZES(Class)                                                                                   \
     CALL(Class, setRemWidth), CALL(Class, setRemHeight), CALL_AS(Class, setRemSize, double, double),       \
         CALL_AS(Class, setRemSize, const QSizeF &)
+
+Setter imageListIcons()
+{
+    return {"TavikImageList", "setIconRemSz", [](Random &random) {
+                const auto size = Wild::draw<QSizeF>(random);
+                return Call{size.text, [=](QWidget *widget) {
+                                static_cast<TavikImageList *>(widget)->setIconRemSz(size.value.width(),
+                                                                                    size.value.height());
+                            }};
+            }};
+}
 
 const std::vector<Setter> &setterTable()
 {
@@ -93,7 +112,7 @@ const std::vector<Setter> &setterTable()
         CALL(TavikButton, initStyleProperties),
         CALL(TavikButton, updateStyleSheet),
         CALL(TavikButton, setFontRemSz),
-        pixelSetter<TavikButton>("setFontPxSz", &TavikButton::setFontPxSz),
+        smallSetter<TavikButton>("setFontPxSz", &TavikButton::setFontPxSz),
         CALL(TavikButton, setIsPaintOverrided),
         CALL(TavikButton, setBgColor),
         CALL(TavikButton, setHoverBgColor),
@@ -114,9 +133,8 @@ const std::vector<Setter> &setterTable()
         CALL(TavikButton, setCheckable),
         CALL(TavikButton, setChecked),
         CALL(TavikButton, click),
-        // The picture of a picture button has its size, and takes the memory of it.
-        pixelSetter<TavikButton>("setFixedWidth", &TavikButton::setFixedWidth),
-        pixelSetter<TavikButton>("setFixedHeight", &TavikButton::setFixedHeight),
+        smallSetter<TavikButton>("setRemWidth", &TavikButton::setRemWidth),
+        smallSetter<TavikButton>("setRemHeight", &TavikButton::setRemHeight),
 
         CALL(TavikButtonGroup, addTextButton),
         CALL_AS(TavikButtonGroup, addIconButton, const QString &),
@@ -131,7 +149,7 @@ const std::vector<Setter> &setterTable()
         CALL(TavikButtonGroup, setCheckedId),
 
         CALL(TavikCheckBox, setFontRemSz),
-        CALL(TavikCheckBox, setIndicatorSz),
+        smallSetter<TavikCheckBox>("setIndicatorSz", &TavikCheckBox::setIndicatorSz),
         CALL(TavikCheckBox, setFontColor),
         CALL(TavikCheckBox, updateStyleSheet),
         CALL(TavikCheckBox, setCheckState),
@@ -139,7 +157,7 @@ const std::vector<Setter> &setterTable()
         CALL(TavikCheckBox, setText),
 
         CALL(TavikRadioButton, setFontRemSz),
-        CALL(TavikRadioButton, setIndicatorSz),
+        smallSetter<TavikRadioButton>("setIndicatorSz", &TavikRadioButton::setIndicatorSz),
         CALL(TavikRadioButton, updateStyleSheet),
         CALL(TavikRadioButton, setChecked),
 
@@ -148,7 +166,7 @@ const std::vector<Setter> &setterTable()
         CALL_AS(TavikLineEdit, setContent, double),
         CALL(TavikLineEdit, setIntRange),
         CALL(TavikLineEdit, setFontRemSz),
-        pixelSetter<TavikLineEdit>("setFontPxSz", &TavikLineEdit::setFontPxSz),
+        smallSetter<TavikLineEdit>("setFontPxSz", &TavikLineEdit::setFontPxSz),
         CALL(TavikLineEdit, updateStyleSheet),
         CALL(TavikLineEdit, initValidator),
         CALL(TavikLineEdit, setReadOnly),
@@ -233,7 +251,7 @@ const std::vector<Setter> &setterTable()
         CALL(TavikScrollArea, setWidgetResizable),
 
         CALL(TavikImageList, setRemWidth),
-        CALL(TavikImageList, setIconRemSz),
+        imageListIcons(),
         CALL(TavikImageList, addImage),
         CALL(TavikImageList, clear),
         CALL_AS(TavikImageList, setCurrentRow, int),

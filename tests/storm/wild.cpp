@@ -7,22 +7,10 @@ namespace {
 using Double = std::numeric_limits<double>;
 using Int = std::numeric_limits<int>;
 
-constexpr double numbers[] = {Double::quiet_NaN(),
-                              Double::infinity(),
-                              -Double::infinity(),
-                              1e300,
-                              -1e300,
-                              -1.0,
-                              -0.0,
-                              0.0,
-                              1e-300,
-                              0.3,
-                              0.5,
-                              1.0,
-                              1.167,
-                              2.5,
-                              9.0,
-                              30.0};
+constexpr double lengths[] = {Double::quiet_NaN(), -Double::infinity(), -1e300, -1.0, -0.0, 0.0, 1e-300, 0.3, 0.5,
+                              1.0, 1.167, 2.5, 9.0, 30.0};
+
+constexpr double largeNumbers[] = {1e6, 1e9, 1e300, Double::infinity()};
 
 constexpr int integers[] = {Int::min(), Int::min() + 1, -100000, -255, -1,  0,      1,         2,  7,
                             50,         99,             100,     101,  255, 256,    300,       360,
@@ -54,7 +42,12 @@ const char *const iconFiles[] = {"", ":/Color/images/plus.svg", ":/Color/images/
 
 double Wild::number(Random &random)
 {
-    return random.pick(numbers);
+    return random.oneIn(5) ? random.pick(largeNumbers) : length(random);
+}
+
+double Wild::length(Random &random)
+{
+    return random.pick(lengths);
 }
 
 int Wild::integer(Random &random)

@@ -26,6 +26,10 @@ struct Drawn
 };
 
 double number(Random &random);
+
+/// A length in rem that is not too large to make a picture of.
+double length(Random &random);
+
 int integer(Random &random);
 QString text(Random &random);
 QColor color(Random &random);
@@ -41,7 +45,7 @@ Drawn<T> draw(Random &random)
     const auto told = [](const auto &value) {
         QString text;
         QDebug(&text).nospace() << value;
-        return text;
+        return text.size() < 100 ? text : text.left(100) + QLatin1String("...");
     };
     if constexpr (std::is_same_v<T, QIcon>) {
         return icon(random);
@@ -69,7 +73,7 @@ Drawn<T> draw(Random &random)
         else if constexpr (std::is_same_v<T, QVector<QColor>>)
             std::generate_n(std::back_inserter(value), random.below(5), [&] { return color(random); });
         else if constexpr (std::is_same_v<T, QSizeF>)
-            value.rwidth() = number(random), value.rheight() = number(random);
+            value.rwidth() = length(random), value.rheight() = length(random);
         else if constexpr (std::is_same_v<T, QSize>)
             value.rwidth() = pixels(random), value.rheight() = pixels(random);
         else if constexpr (std::is_same_v<T, QPoint>)
