@@ -16,14 +16,16 @@ std::vector<Action> allActions()
 
 } // namespace
 
-const Action &Actions::pick(Random &random)
+Deed Actions::any(Random &random)
 {
     static const std::vector<Action> all = allActions();
-    static const int weights =
-        std::accumulate(all.begin(), all.end(), 0, [](int sum, const Action &action) { return sum + action.weight; });
+    const auto add = [](int sum, const Action &action) { return sum + action.weight; };
+    static const int weights = std::accumulate(all.begin(), all.end(), 0, add);
     int left = random.below(weights);
     auto action = all.begin();
     while (left >= action->weight)
         left -= (action++)->weight;
-    return *action;
+    Deed deed = action->plan(random);
+    deed.text.prepend(QLatin1String(action->name) + QLatin1Char(' '));
+    return deed;
 }

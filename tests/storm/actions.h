@@ -14,7 +14,7 @@ class Stage;
 /// tells the same whatever the stage looks like.
 struct Deed
 {
-    QString text; // the target and the arguments
+    QString text; // what it is, to whom and with which arguments
     std::function<void(Stage &)> act;
 };
 
@@ -35,8 +35,11 @@ const std::vector<Action> &setters();   // setters.cpp
 const std::vector<Action> &windows();   // windows.cpp
 const std::vector<Action> &lifetimes(); // lifetimes.cpp
 
-/// One action out of all families, by weight.
-const Action &pick(Random &random);
+/// A step of any kind, chosen by weight.
+Deed any(Random &random);
+
+/// A call of one of a class's public functions.
+Deed set(Random &random, const char *className);
 
 } // namespace Actions
 

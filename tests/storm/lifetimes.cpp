@@ -1,5 +1,6 @@
 #include "actions.h"
 #include "busy.h"
+#include "finding.h"
 #include "stage.h"
 #include "wild.h"
 
@@ -200,7 +201,9 @@ Signal signal(const char *name, void (Owner::*member)(Arguments...), Busy::Survi
 {
     return {Class::staticMetaObject.className(), name, survival,
             [member](QWidget *control, QObject *context, const std::function<void()> &slot) {
-                return QObject::connect(static_cast<Class *>(control), member, context, slot);
+                // The arguments are copied, because a receiver may read them.
+                return QObject::connect(static_cast<Class *>(control), member, context,
+                                        [slot](std::decay_t<Arguments>...) { slot(); });
             }};
 }
 
@@ -245,20 +248,20 @@ const std::vector<Signal> &signalTable()
     return table;
 }
 
-/// Waits for a signal, and does another step in the middle of it, once.
+/// Waits for a signal, and does another step in the middle of it, once: half of the time to the same control.
 Deed trap(Random &random)
 {
     const Signal &signal = random.pick(signalTable());
-    const Action &action = Actions::pick(random);
-    const Deed inner = action.plan(random);
-    const QString text = QStringLiteral("%1::%2 does %3 %4")
-                             .arg(QLatin1String(signal.className), QLatin1String(signal.name),
-                                  QLatin1String(action.name), inner.text);
+    const Deed inner = random.oneIn(2) ? Actions::set(random, signal.className) : Actions::any(random);
+    const QString text = QStringLiteral("%1::%2 does %3")
+                             .arg(QLatin1String(signal.className), QLatin1String(signal.name), inner.text);
     return {text, [=](Stage &stage) {
-                QWidget *control = stage.at(Stage::slotOf(signal.className));
+                const QPointer<QWidget> control = stage.at(Stage::slotOf(signal.className));
                 const auto connection = std::make_shared<QMetaObject::Connection>();
                 *connection = signal.connect(control, stage.wires(), [=, &stage] {
                     QObject::disconnect(*connection);
+                    if (!control)
+                        Finding::end(QStringLiteral("A control that is being destroyed sends a signal"));
                     const Busy busy(control, signal.survival);
                     inner.act(stage);
                 });
@@ -276,7 +279,7 @@ const std::vector<Action> &Actions::lifetimes()
 {
     static const std::vector<Action> actions = {
         {"destroy", 8, destroy}, {"construct", 10, construct},         {"nest", 5, nest},
-        {"trap", 25, trap},      {"processEvents", 20, processEvents},
+        {"trap", 45, trap},      {"processEvents", 20, processEvents},
     };
     return actions;
 }

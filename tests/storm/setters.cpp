@@ -58,7 +58,8 @@ Setter setter(const char *name, Result (Owner::*member)(Arguments...) const)
             })};
 }
 
-/// Calls whose arguments stay within what a picture can be made of, as the control makes one.
+/// Calls whose arguments stay small: the control makes a picture of that size, or hands the length to a layout,
+/// and the toolkit's layouts add lengths up as int.
 template <class Class, class Owner>
 Setter smallSetter(const char *name, void (Owner::*member)(int))
 {
@@ -140,8 +141,8 @@ const std::vector<Setter> &setterTable()
         CALL_AS(TavikButtonGroup, addIconButton, const QString &),
         CALL_AS(TavikButtonGroup, addIconButton, const QIcon &),
         CALL(TavikButtonGroup, addRadioButton),
-        CALL(TavikButtonGroup, setRemSpacing),
-        CALL(TavikButtonGroup, setPxSpacing),
+        smallSetter<TavikButtonGroup>("setRemSpacing", &TavikButtonGroup::setRemSpacing),
+        smallSetter<TavikButtonGroup>("setPxSpacing", &TavikButtonGroup::setPxSpacing),
         CALL(TavikButtonGroup, setIsUncheckable),
         CALL(TavikButtonGroup, setIconRemSz),
         CALL(TavikButtonGroup, setIconPxSz),
@@ -227,17 +228,17 @@ const std::vector<Setter> &setterTable()
         CALL(TavikSeperateLine, clear),
         CALL(TavikSeperateLine, setText),
 
-        CALL(TavikContainer, setSpacing),
-        CALL(TavikContainer, addSpacing),
+        smallSetter<TavikContainer>("setSpacing", &TavikContainer::setSpacing),
+        smallSetter<TavikContainer>("addSpacing", &TavikContainer::addSpacing),
         CALL(TavikContainer, addStretch),
-        CALL(TavikContainer, setContentMargin),
+        smallSetter<TavikContainer>("setContentMargin", &TavikContainer::setContentMargin),
         CALL(TavikContainer, removeMargins),
         CALL_AS(TavikContainer, setAlignment, Qt::Alignment),
         REM_SIZES(TavikContainer),
 
         CALL(TavikExpandable, setTitle),
         CALL(TavikExpandable, setRemWidth),
-        CALL(TavikExpandable, setSpacing),
+        smallSetter<TavikExpandable>("setSpacing", &TavikExpandable::setSpacing),
         CALL(TavikExpandable, setRemExpandHeight),
         CALL(TavikExpandable, updateExpandedHeight),
         CALL(TavikExpandable, initAnimationStates),
@@ -295,9 +296,8 @@ const std::vector<Setter> &setterTable()
     return table;
 }
 
-Deed set(Random &random)
+Deed deedOf(const Setter &setter, Random &random)
 {
-    const Setter &setter = random.pick(setterTable());
     const Call call = setter.draw(random);
     const QString text = QStringLiteral("%1::%2(%3)").arg(QLatin1String(setter.className),
                                                           QLatin1String(setter.name), call.arguments);
@@ -308,10 +308,23 @@ Deed set(Random &random)
             }};
 }
 
+Deed set(Random &random)
+{
+    return deedOf(random.pick(setterTable()), random);
+}
+
 } // namespace
+
+Deed Actions::set(Random &random, const char *className)
+{
+    std::vector<Setter> own;
+    std::copy_if(setterTable().begin(), setterTable().end(), std::back_inserter(own),
+                 [&](const Setter &setter) { return qstrcmp(setter.className, className) == 0; });
+    return deedOf(random.pick(own), random);
+}
 
 const std::vector<Action> &Actions::setters()
 {
-    static const std::vector<Action> actions = {{"set", 60, set}};
+    static const std::vector<Action> actions = {{"set", 60, ::set}};
     return actions;
 }
