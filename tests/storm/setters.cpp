@@ -58,10 +58,9 @@ Setter setter(const char *name, Result (Owner::*member)(Arguments...) const)
             })};
 }
 
-/// Calls whose arguments stay small: the control makes a picture of that size, or hands the length to a layout,
-/// and the toolkit's layouts add lengths up as int.
+/// A call with a few pixels instead of any whole number. See Wild::length().
 template <class Class, class Owner>
-Setter smallSetter(const char *name, void (Owner::*member)(int))
+Setter pixelSetter(const char *name, void (Owner::*member)(int))
 {
     return {Class::staticMetaObject.className(), name, [member](Random &random) {
                 const int px = Wild::pixels(random);
@@ -70,13 +69,14 @@ Setter smallSetter(const char *name, void (Owner::*member)(int))
             }};
 }
 
+/// A call with any number instead of a length.
 template <class Class, class Owner>
-Setter smallSetter(const char *name, void (Owner::*member)(double))
+Setter numberSetter(const char *name, void (Owner::*member)(double))
 {
     return {Class::staticMetaObject.className(), name, [member](Random &random) {
-                const double rem = Wild::length(random);
-                return Call{QString::number(rem),
-                            [=](QWidget *widget) { (static_cast<Class *>(widget)->*member)(rem); }};
+                const double number = Wild::number(random);
+                return Call{QString::number(number),
+                            [=](QWidget *widget) { (static_cast<Class *>(widget)->*member)(number); }};
             }};
 }
 
@@ -86,17 +86,6 @@ Setter smallSetter(const char *name, void (Owner::*member)(double))
 #define REM_SIZES(Class)                                                                                   \
     CALL(Class, setRemWidth), CALL(Class, setRemHeight), CALL_AS(Class, setRemSize, double, double),       \
         CALL_AS(Class, setRemSize, const QSizeF &)
-
-Setter imageListIcons()
-{
-    return {"TavikImageList", "setIconRemSz", [](Random &random) {
-                const auto size = Wild::draw<QSizeF>(random);
-                return Call{size.text, [=](QWidget *widget) {
-                                static_cast<TavikImageList *>(widget)->setIconRemSz(size.value.width(),
-                                                                                    size.value.height());
-                            }};
-            }};
-}
 
 const std::vector<Setter> &setterTable()
 {
@@ -113,7 +102,7 @@ const std::vector<Setter> &setterTable()
         CALL(TavikButton, initStyleProperties),
         CALL(TavikButton, updateStyleSheet),
         CALL(TavikButton, setFontRemSz),
-        smallSetter<TavikButton>("setFontPxSz", &TavikButton::setFontPxSz),
+        pixelSetter<TavikButton>("setFontPxSz", &TavikButton::setFontPxSz),
         CALL(TavikButton, setIsPaintOverrided),
         CALL(TavikButton, setBgColor),
         CALL(TavikButton, setHoverBgColor),
@@ -134,15 +123,15 @@ const std::vector<Setter> &setterTable()
         CALL(TavikButton, setCheckable),
         CALL(TavikButton, setChecked),
         CALL(TavikButton, click),
-        smallSetter<TavikButton>("setRemWidth", &TavikButton::setRemWidth),
-        smallSetter<TavikButton>("setRemHeight", &TavikButton::setRemHeight),
+        CALL(TavikButton, setRemWidth),
+        CALL(TavikButton, setRemHeight),
 
         CALL(TavikButtonGroup, addTextButton),
         CALL_AS(TavikButtonGroup, addIconButton, const QString &),
         CALL_AS(TavikButtonGroup, addIconButton, const QIcon &),
         CALL(TavikButtonGroup, addRadioButton),
-        smallSetter<TavikButtonGroup>("setRemSpacing", &TavikButtonGroup::setRemSpacing),
-        smallSetter<TavikButtonGroup>("setPxSpacing", &TavikButtonGroup::setPxSpacing),
+        CALL(TavikButtonGroup, setRemSpacing),
+        pixelSetter<TavikButtonGroup>("setPxSpacing", &TavikButtonGroup::setPxSpacing),
         CALL(TavikButtonGroup, setIsUncheckable),
         CALL(TavikButtonGroup, setIconRemSz),
         CALL(TavikButtonGroup, setIconPxSz),
@@ -150,7 +139,7 @@ const std::vector<Setter> &setterTable()
         CALL(TavikButtonGroup, setCheckedId),
 
         CALL(TavikCheckBox, setFontRemSz),
-        smallSetter<TavikCheckBox>("setIndicatorSz", &TavikCheckBox::setIndicatorSz),
+        CALL(TavikCheckBox, setIndicatorSz),
         CALL(TavikCheckBox, setFontColor),
         CALL(TavikCheckBox, updateStyleSheet),
         CALL(TavikCheckBox, setCheckState),
@@ -158,16 +147,16 @@ const std::vector<Setter> &setterTable()
         CALL(TavikCheckBox, setText),
 
         CALL(TavikRadioButton, setFontRemSz),
-        smallSetter<TavikRadioButton>("setIndicatorSz", &TavikRadioButton::setIndicatorSz),
+        CALL(TavikRadioButton, setIndicatorSz),
         CALL(TavikRadioButton, updateStyleSheet),
         CALL(TavikRadioButton, setChecked),
 
         CALL_AS(TavikLineEdit, setContent, const QString &),
         CALL_AS(TavikLineEdit, setContent, int),
-        CALL_AS(TavikLineEdit, setContent, double),
+        numberSetter<TavikLineEdit>("setContent", &TavikLineEdit::setContent),
         CALL(TavikLineEdit, setIntRange),
         CALL(TavikLineEdit, setFontRemSz),
-        smallSetter<TavikLineEdit>("setFontPxSz", &TavikLineEdit::setFontPxSz),
+        pixelSetter<TavikLineEdit>("setFontPxSz", &TavikLineEdit::setFontPxSz),
         CALL(TavikLineEdit, updateStyleSheet),
         CALL(TavikLineEdit, initValidator),
         CALL(TavikLineEdit, setReadOnly),
@@ -190,8 +179,8 @@ const std::vector<Setter> &setterTable()
         CALL(TavikDoubleSpinbox, setFontRemSz),
         CALL(TavikDoubleSpinbox, updateStyleSheet),
         CALL(TavikDoubleSpinbox, setRange),
-        CALL(TavikDoubleSpinbox, setValue),
-        CALL(TavikDoubleSpinbox, setSingleStep),
+        numberSetter<TavikDoubleSpinbox>("setValue", &TavikDoubleSpinbox::setValue),
+        numberSetter<TavikDoubleSpinbox>("setSingleStep", &TavikDoubleSpinbox::setSingleStep),
         CALL(TavikDoubleSpinbox, stepDown),
         REM_SIZES(TavikDoubleSpinbox),
 
@@ -228,17 +217,17 @@ const std::vector<Setter> &setterTable()
         CALL(TavikSeperateLine, clear),
         CALL(TavikSeperateLine, setText),
 
-        smallSetter<TavikContainer>("setSpacing", &TavikContainer::setSpacing),
-        smallSetter<TavikContainer>("addSpacing", &TavikContainer::addSpacing),
+        CALL(TavikContainer, setSpacing),
+        pixelSetter<TavikContainer>("addSpacing", &TavikContainer::addSpacing),
         CALL(TavikContainer, addStretch),
-        smallSetter<TavikContainer>("setContentMargin", &TavikContainer::setContentMargin),
+        pixelSetter<TavikContainer>("setContentMargin", &TavikContainer::setContentMargin),
         CALL(TavikContainer, removeMargins),
         CALL_AS(TavikContainer, setAlignment, Qt::Alignment),
         REM_SIZES(TavikContainer),
 
         CALL(TavikExpandable, setTitle),
         CALL(TavikExpandable, setRemWidth),
-        smallSetter<TavikExpandable>("setSpacing", &TavikExpandable::setSpacing),
+        CALL(TavikExpandable, setSpacing),
         CALL(TavikExpandable, setRemExpandHeight),
         CALL(TavikExpandable, updateExpandedHeight),
         CALL(TavikExpandable, initAnimationStates),
@@ -252,7 +241,7 @@ const std::vector<Setter> &setterTable()
         CALL(TavikScrollArea, setWidgetResizable),
 
         CALL(TavikImageList, setRemWidth),
-        imageListIcons(),
+        CALL(TavikImageList, setIconRemSz),
         CALL(TavikImageList, addImage),
         CALL(TavikImageList, clear),
         CALL_AS(TavikImageList, setCurrentRow, int),
@@ -263,7 +252,7 @@ const std::vector<Setter> &setterTable()
         CALL(TavikColorButton, click),
         REM_SIZES(TavikColorButton),
 
-        CALL(TavikColorPicker, setCurrentHue),
+        numberSetter<TavikColorPicker>("setCurrentHue", &TavikColorPicker::setCurrentHue),
         CALL(TavikColorPicker, setCurrentColor),
         CALL(TavikColorPicker, updateColors),
         CALL(TavikColorPicker, updateSelectedColor),

@@ -109,8 +109,11 @@ void Stage::wire(QWidget *control)
                          [this](const QPoint &pos, const QColor &color) { showPopup(pos, color); });
     } else if (auto *well = qobject_cast<TavikColorWell *>(control)) {
         QObject::connect(well, &TavikColorWell::addColorRequested, well, [well] { well->addColor(Qt::red); });
-        QObject::connect(well, &TavikColorWell::colorSelected, wires(),
-                         [this](const QColor &color) { this->control<TavikColorPopup>()->setCurrentColor(color); });
+        // A palette that begins with what was chosen last.
+        QObject::connect(well, &TavikColorWell::colorSelected, well, &TavikColorWell::addColor);
+        QObject::connect(well, &TavikColorWell::colorSelected, wires(), [this](const QColor &color) {
+            this->control<TavikColorPopup>()->setCurrentColor(color);
+        });
     } else if (auto *popup = qobject_cast<TavikColorPopup *>(control)) {
         QObject::connect(popup, &TavikColorPopup::colorChanged, wires(), [this](const QColor &color) {
             this->control<TavikColorButton>()->setCurrentColor(color);

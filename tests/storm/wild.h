@@ -27,7 +27,8 @@ struct Drawn
 
 double number(Random &random);
 
-/// A length in rem that is not too large to make a picture of.
+/// A length in rem. It is never very large, because that would test nothing but the machine's memory, where a
+/// control makes a picture of its size, and the toolkit's layouts, which add lengths up as int.
 double length(Random &random);
 
 int integer(Random &random);
@@ -35,7 +36,7 @@ QString text(Random &random);
 QColor color(Random &random);
 Drawn<QIcon> icon(Random &random);
 
-/// Pixels that stay small: what is only large would test the memory of the machine.
+/// A length in pixels, see length().
 int pixels(Random &random);
 
 /// Draws an argument by its type.
@@ -61,7 +62,7 @@ Drawn<T> draw(Random &random)
         else if constexpr (std::is_same_v<T, int>)
             value = integer(random);
         else if constexpr (std::is_same_v<T, double>)
-            value = number(random);
+            value = length(random);
         else if constexpr (std::is_same_v<T, QString>)
             value = text(random);
         else if constexpr (std::is_same_v<T, QColor>)
