@@ -16,8 +16,6 @@
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
-#include <utility>
-
 namespace {
 
 constexpr int separatorOffset = 295; // pixels below the outline's upper edge
@@ -350,16 +348,19 @@ void TavikColorPopup::onAddColorWellRequested()
 
 void TavikColorPopup::onClickPickColor()
 {
-    // The new one shows itself and so closes this popup, while m_screenshot still tells of the run before.
-    Screenshot *previous = std::exchange(m_screenshot, new Screenshot(nullptr));
-    connect(m_screenshot, SIGNAL(screenColor(QColor)), this, SLOT(onPickColorChanged(QColor)));
-    if (previous)
-        previous->deleteLater(); // it may be in the middle of its own signal
+    // It shows itself and so closes this popup, while m_screenshot still tells of the run before.
+    auto *started = new Screenshot(nullptr);
+    connect(started, SIGNAL(screenColor(QColor)), this, SLOT(onPickColorChanged(QColor)));
+    // The run before, or one that was started when this popup told of its closing. It may be in the middle of
+    // its own signal.
+    if (m_screenshot)
+        m_screenshot->deleteLater();
+    m_screenshot = started;
 }
 
 void TavikColorPopup::onPickColorChanged(const QColor &color)
 {
-    Screenshot *finished = m_screenshot;
+    const QPointer<Screenshot> finished = m_screenshot;
     setCurrentColor(color);
     Q_EMIT colorChanged(color);
     if (finished && m_screenshot == finished) {
@@ -403,11 +404,14 @@ void TavikColorPopup::adjustPosition()
 {
     const QScreen *screen = QGuiApplication::primaryScreen();
     const int screenHeight = screen ? screen->size().height() : 0;
-    const bool hasRoomBelow = height() - 1 + m_shadowRadius + 6 < screenHeight - m_anchor.y();
+    // No screen reaches as far as that, so a point beyond is out of sight either way.
+    const int anchorX = qBound(-QWIDGETSIZE_MAX, m_anchor.x(), QWIDGETSIZE_MAX);
+    const int anchorY = qBound(-QWIDGETSIZE_MAX, m_anchor.y(), QWIDGETSIZE_MAX);
+    const bool hasRoomBelow = height() - 1 + m_shadowRadius + 6 < screenHeight - anchorY;
     initDrawElements(hasRoomBelow);
-    const int x = m_anchor.x() - m_arrowTip - m_shadowRadius;
-    const int above = m_anchor.y() - height() - m_arrowHeight + m_shadowRadius;
-    move(x, hasRoomBelow ? m_anchor.y() : above);
+    const int x = anchorX - m_arrowTip - m_shadowRadius;
+    const int above = anchorY - height() - m_arrowHeight + m_shadowRadius;
+    move(x, hasRoomBelow ? anchorY : above);
 }
 
 void TavikColorPopup::initDrawElements(bool arrowUp)

@@ -3,6 +3,7 @@
 
 #include <QColor>
 #include <QLine>
+#include <QPointer>
 #include <QVector>
 #include <QWidget>
 
@@ -143,7 +144,8 @@ private:
     QVector<QPoint> m_polygon;
     QVector<QLine> m_lines;
     bool m_arrowUp = true;
-    Screenshot *m_screenshot = nullptr;
+    // The window is among the application's, which may delete them all.
+    QPointer<Screenshot> m_screenshot;
 };
 
 #endif

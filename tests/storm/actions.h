@@ -1,0 +1,46 @@
+#ifndef TAVIK_TESTS_STORM_ACTIONS_H
+#define TAVIK_TESTS_STORM_ACTIONS_H
+
+#include "random.h"
+
+#include <QString>
+
+#include <functional>
+#include <vector>
+
+class Stage;
+
+/// What one step does: all that it needs was drawn beforehand, so that the log tells it before it is done, and
+/// tells the same whatever the stage looks like.
+struct Deed
+{
+    QString text; // what it is, to whom and with which arguments
+    std::function<void(Stage &)> act;
+};
+
+/// A kind of step.
+struct Action
+{
+    const char *name;
+    int weight; // how often it comes, against the others
+    Deed (*plan)(Random &random);
+};
+
+/// All of them, by family.
+namespace Actions {
+
+const std::vector<Action> &pointer();   // pointer.cpp
+const std::vector<Action> &keyboard();  // keyboard.cpp
+const std::vector<Action> &setters();   // setters.cpp
+const std::vector<Action> &windows();   // windows.cpp
+const std::vector<Action> &lifetimes(); // lifetimes.cpp
+
+/// A step of any kind, chosen by weight.
+Deed any(Random &random);
+
+/// A call of one of a class's public functions.
+Deed set(Random &random, const char *className);
+
+} // namespace Actions
+
+#endif
