@@ -21,7 +21,7 @@ QWidget *ControlKeys::control() const
 
 bool ControlKeys::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched != control())
+    if (watched != parent())
         return false;
     if (event->type() == QEvent::FocusIn)
         enter(*static_cast<QFocusEvent *>(event));

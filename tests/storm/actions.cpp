@@ -7,8 +7,9 @@ namespace {
 std::vector<Action> allActions()
 {
     std::vector<Action> all;
-    for (const std::vector<Action> &family : {Actions::pointer(), Actions::keyboard(), Actions::setters(),
-                                              Actions::windows(), Actions::lifetimes()}) {
+    for (const std::vector<Action> &family :
+         {Actions::pointer(), Actions::keyboard(), Actions::setters(), Actions::windows(),
+          Actions::lifetimes(), Actions::access()}) {
         all.insert(all.end(), family.begin(), family.end());
     }
     return all;

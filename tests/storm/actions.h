@@ -34,6 +34,7 @@ const std::vector<Action> &keyboard();  // keyboard.cpp
 const std::vector<Action> &setters();   // setters.cpp
 const std::vector<Action> &windows();   // windows.cpp
 const std::vector<Action> &lifetimes(); // lifetimes.cpp
+const std::vector<Action> &access();    // access.cpp
 
 /// A step of any kind, chosen by weight.
 Deed any(Random &random);
