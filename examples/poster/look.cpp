@@ -42,6 +42,7 @@ TavikButton *Look::button(const QString &text, double remWidth, bool isOutlined)
 QWidget *Look::place(TavikComboBox *combo, double remWidth)
 {
     combo->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    combo->setFocusPolicy(Qt::StrongFocus); // not by a wheel that scrolls the page under the pointer
     auto *place = new TavikContainer;
     place->removeMargins();
     place->setRemSize(remWidth, FieldHeight);

@@ -3,6 +3,7 @@
 #include "look.h"
 
 #include <QAbstractButton>
+#include <QLabel>
 
 #include <Tavik/LenConverter>
 #include <Tavik/TavikContainer>
@@ -20,7 +21,8 @@ void nameForReaders(QWidget *widget, const QString &name)
 {
     QWidget *control = widget->focusProxy() ? widget->focusProxy() : widget;
     const auto *button = qobject_cast<QAbstractButton *>(control);
-    if (control->accessibleName().isEmpty() && (!button || button->text().isEmpty()))
+    const bool hasText = qobject_cast<QLabel *>(control) || (button && !button->text().isEmpty());
+    if (control->accessibleName().isEmpty() && !hasText)
         control->setAccessibleName(name);
 }
 

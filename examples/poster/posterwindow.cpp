@@ -11,6 +11,7 @@
 #include "preview.h"
 #include "settingsfile.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QDir>
@@ -18,7 +19,6 @@
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QImageReader>
-#include <QLineEdit>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QScreen>
@@ -31,9 +31,9 @@
 namespace {
 
 /// Whether a field is about to take undo for its own text; here it is the poster's.
-bool isUndoInField(const QObject *watched, const QEvent *event)
+bool isUndoInField(const QEvent *event)
 {
-    if (event->type() != QEvent::ShortcutOverride || !qobject_cast<const QLineEdit *>(watched))
+    if (event->type() != QEvent::ShortcutOverride)
         return false;
     const auto *key = static_cast<const QKeyEvent *>(event);
     return key->matches(QKeySequence::Undo) || key->matches(QKeySequence::Redo);
@@ -67,6 +67,8 @@ PosterWindow::PosterWindow(QWidget *parent)
     connectExporter();
     connect(&m_poster, &Poster::photographMissing, m_messages, &MessageBar::complain);
     connect(m_poster.undoStack(), &QUndoStack::cleanChanged, this, &PosterWindow::showTitle);
+    connect(m_poster.undoStack(), &QUndoStack::indexChanged, this, &PosterWindow::forgetUndoneFile);
+    connect(qApp, &QApplication::focusChanged, &m_poster, &Poster::beginStep); // by keys
     qApp->installEventFilter(this);
     showTitle();
     const QSize titleBar(0, style()->pixelMetric(QStyle::PM_TitleBarHeight));
@@ -175,7 +177,17 @@ void PosterWindow::openSettings(const QString &file)
     m_poster.edit(tr("opening %1").arg(QFileInfo(file).fileName()),
                   [=](PosterSettings &s) { s = settings; });
     m_file = file;
+    m_openedAt = m_poster.undoStack()->index();
     m_poster.undoStack()->setClean();
+    showTitle();
+}
+
+void PosterWindow::forgetUndoneFile(int index)
+{
+    if (index >= m_openedAt)
+        return;
+    m_file.clear(); // or the next save would write another poster over what was opened
+    m_openedAt = 0;
     showTitle();
 }
 
@@ -271,7 +283,7 @@ bool PosterWindow::eventFilter(QObject *watched, QEvent *event)
     // All that is done by one press of the mouse, in the popup and the sampler too, is undone at once.
     if (event->type() == QEvent::MouseButtonPress && watched->isWindowType())
         m_poster.beginStep();
-    if (!isUndoInField(watched, event) && !isStrayWheel(watched, event))
+    if (!isUndoInField(event) && !isStrayWheel(watched, event))
         return QWidget::eventFilter(watched, event);
     event->ignore(); // leaves the keys to the shortcuts, and the wheel to the panels around the control
     return true;
