@@ -36,6 +36,7 @@ private Q_SLOTS:
     void brokenSettings();
     void aBrokenFileLosesNothing();
     void cancelledBatch();
+    void cancelledPicture();
     void unwritableExport();
     void nothingIsClipped_data();
     void nothingIsClipped();
@@ -431,6 +432,19 @@ void TestPoster::cancelledBatch()
              QStringList({"p-1080x1080.png"_s, "p-1920x1080.png"_s}));
     QVERIFY(!QImage(directory.filePath("p-1920x1080.png"_s)).isNull());
     QCOMPARE(QFileInfo(old).size(), 3);
+}
+
+void TestPoster::cancelledPicture()
+{
+    const QTemporaryDir directory;
+    PosterWindow window;
+    window.poster()->edit("size"_s, [](PosterSettings &s) { s.width = s.height = 4000; });
+    QSignalSpy finished(window.exporter(), &Exporter::finished);
+    window.exportTo(directory.filePath("large.png"_s));
+    withText<TavikButton>(window, "Cancel"_s)->click();
+    QVERIFY(finished.wait());
+    QVERIFY(window.message().contains("0 of 1"_s));
+    QVERIFY(QDir(directory.path()).isEmpty(QDir::Files | QDir::Hidden));
 }
 
 void TestPoster::unwritableExport()
