@@ -46,6 +46,18 @@ bool isStrayWheel(const QObject *watched, const QEvent *event)
     return event->type() == QEvent::Wheel && combo && !combo->hasFocus();
 }
 
+/// Asks for a file to write; a name without a suffix gets that of the proposed one. Empty if cancelled.
+QString askForTarget(QWidget *parent, const QString &title, const QString &proposed, const QString &filter,
+                     QFileDialog::Options options = {})
+{
+    QFileDialog dialog(parent, title, QFileInfo(proposed).path(), filter);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(QFileInfo(proposed).suffix());
+    dialog.setOptions(options);
+    dialog.selectFile(QFileInfo(proposed).fileName());
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+}
+
 } // namespace
 
 PosterWindow::PosterWindow(QWidget *parent)
@@ -212,7 +224,7 @@ bool PosterWindow::saveAs()
 {
     const QString start = m_file.isEmpty() ? QStringLiteral("poster.json") : m_file;
     const QString file =
-        QFileDialog::getSaveFileName(this, tr("Save the poster's settings"), start, tr("Posters (*.json)"));
+        askForTarget(this, tr("Save the poster's settings"), start, tr("Posters (*.json)"));
     return !file.isEmpty() && saveSettings(file);
 }
 
@@ -234,8 +246,10 @@ void PosterWindow::askToExport()
 {
     const bool isBatch = m_poster.settings().isBatch;
     const QString title = isBatch ? tr("Export: each file's name will end in its size") : tr("Export");
+    QFileDialog::Options options;
+    options.setFlag(QFileDialog::DontConfirmOverwrite, isBatch); // mayReplace() asks
     const QString file =
-        QFileDialog::getSaveFileName(this, title, QStringLiteral("poster.png"), tr("Pictures (*.png)"));
+        askForTarget(this, title, QStringLiteral("poster.png"), tr("Pictures (*.png)"), options);
     if (!file.isEmpty() && (!isBatch || mayReplace(Exporter::jobs(m_poster.settings(), file))))
         exportTo(file);
 }
