@@ -30,6 +30,7 @@ private Q_SLOTS:
     void onePopupForEveryColour();
     void aDragIsOneUndo();
     void undoReachesThePosterFromEveryField();
+    void tabLeadsThroughWhatIsSeen();
     void theWheelScrollsThePanels();
     void settingsAreSavedAndOpened();
     void brokenSettings_data();
@@ -286,6 +287,25 @@ void TestPoster::undoReachesThePosterFromEveryField()
         QTest::keySequence(window.windowHandle(), QKeySequence::Undo);
         QCOMPARE(caption->text(), "Above the clouds"_s);
     }
+}
+
+void TestPoster::tabLeadsThroughWhatIsSeen()
+{
+    PosterWindow window;
+    QSignalSpy settled(&window, &PosterWindow::settled);
+    window.show();
+    window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QVERIFY(settled.wait());
+    QSet<QWidget *> stops;
+    while (!stops.contains(window.focusWidget())) {
+        stops.insert(window.focusWidget());
+        QTest::keyClick(window.windowHandle(), Qt::Key_Tab);
+        QVERIFY(!window.focusWidget()->visibleRegion().isEmpty());
+        QVERIFY(!qobject_cast<TavikScrollArea *>(window.focusWidget()));
+    }
+    QVERIFY(stops.size() > 20);
+    QVERIFY(!stops.contains(withText<TavikCheckBox>(window, "Laptop"_s)));
 }
 
 void TestPoster::theWheelScrollsThePanels()

@@ -70,6 +70,9 @@ void Panel::addWide(QWidget *widget)
 void Panel::finish(bool isOpen)
 {
     updateExpandedHeight(LenConverter::pxToRem(m_rows->sizeHint().height() + frame));
+    // Or Tab would lead through the rows of a closed panel, where nobody sees them.
+    connect(this, &Panel::animationStarted, m_rows, &QWidget::show);
+    connect(this, &Panel::animationFinished, m_rows, [this] { m_rows->setVisible(remExpandHeight() > 0); });
     if (isOpen)
         expand();
     connect(m_poster, &Poster::changed, this, [this] { follow(m_poster->settings()); });

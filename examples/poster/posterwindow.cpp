@@ -157,6 +157,7 @@ QWidget *PosterWindow::buildPanels()
         });
     }
     layout->addStretch(1);
+    area->setFocusPolicy(Qt::NoFocus); // its keys come to it from the controls inside
     area->setWidgetResizable(true);
     area->setWidget(column);
     column->setAutoFillBackground(false); // the area's own ground
