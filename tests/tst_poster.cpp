@@ -29,12 +29,15 @@ private Q_SLOTS:
     void gradientAsText();
     void onePopupForEveryColour();
     void aDragIsOneUndo();
+    void undoReachesThePosterFromEveryField();
+    void tabLeadsThroughWhatIsSeen();
     void theWheelScrollsThePanels();
     void settingsAreSavedAndOpened();
     void brokenSettings_data();
     void brokenSettings();
     void aBrokenFileLosesNothing();
     void cancelledBatch();
+    void cancelledPicture();
     void unwritableExport();
     void nothingIsClipped_data();
     void nothingIsClipped();
@@ -251,26 +254,69 @@ void TestPoster::aDragIsOneUndo()
 
     withText<TavikButton>(window, "Undo"_s)->click();
     QCOMPARE(slider->value(), opacity);
-    // The shortcut too, while a field has the focus that has an undo of its own.
-    auto *caption = withText<TavikLineEdit>(window, "Above the clouds"_s);
-    QTest::keyClicks(caption, "!?"_s);
-    QCOMPARE(stack->undoText(), "caption"_s);
-    caption->setFocus();
-    QTest::keySequence(window.windowHandle(), QKeySequence::Undo);
-    QCOMPARE(caption->text(), "Above the clouds"_s);
-    QTest::keySequence(window.windowHandle(), QKeySequence::Undo);
+    withText<TavikButton>(window, "Undo"_s)->click();
     QCOMPARE(slider->value(), 100);
     QVERIFY(!window.isWindowModified());
     withText<TavikButton>(window, "Redo"_s)->click();
     QCOMPARE(slider->value(), opacity);
+    // By keys, each visit of a control is one.
+    const int count = stack->count();
+    QTest::keyClick(slider, Qt::Key_Left);
+    QTest::keyClick(slider, Qt::Key_Left);
+    window.findChild<TavikDial *>()->setFocus();
+    slider->setFocus();
+    QTest::keyClick(slider, Qt::Key_Left);
+    QCOMPARE(stack->count(), count + 1);
+}
+
+void TestPoster::undoReachesThePosterFromEveryField()
+{
+    PosterWindow window;
+    window.show();
+    window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QUndoStack *stack = window.poster()->undoStack();
+    auto *caption = withText<TavikLineEdit>(window, "Above the clouds"_s);
+    const QVector<QWidget *> fields{caption, window.findChild<TavikDoubleSpinbox *>(),
+                                    window.findChild<TavikFontFamilyComboBox *>()};
+    for (QWidget *field : fields) {
+        QTest::keyClicks(caption, "!?"_s);
+        QCOMPARE(stack->undoText(), "caption"_s);
+        field->setFocus();
+        QVERIFY(field->hasFocus());
+        QTest::keySequence(window.windowHandle(), QKeySequence::Undo);
+        QCOMPARE(caption->text(), "Above the clouds"_s);
+    }
+}
+
+void TestPoster::tabLeadsThroughWhatIsSeen()
+{
+    PosterWindow window;
+    QSignalSpy settled(&window, &PosterWindow::settled);
+    window.show();
+    window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QVERIFY(settled.wait());
+    QSet<QWidget *> stops;
+    while (!stops.contains(window.focusWidget())) {
+        stops.insert(window.focusWidget());
+        QTest::keyClick(window.windowHandle(), Qt::Key_Tab);
+        QVERIFY(!window.focusWidget()->visibleRegion().isEmpty());
+        QVERIFY(!qobject_cast<TavikScrollArea *>(window.focusWidget()));
+    }
+    QVERIFY(stops.size() > 20);
+    QVERIFY(!stops.contains(withText<TavikCheckBox>(window, "Laptop"_s)));
 }
 
 void TestPoster::theWheelScrollsThePanels()
 {
     PosterWindow window;
     window.show();
+    window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
     QTRY_VERIFY(window.findChild<TavikScrollArea *>()->verticalScrollBar()->maximum() > 0);
-    Support::turnWheel(window.findChild<TavikFontFamilyComboBox *>());
+    // The wheel comes to its field first, and would give it the focus.
+    Support::turnWheel(window.findChild<TavikFontFamilyComboBox *>()->lineEdit());
     QCOMPARE(window.poster()->undoStack()->count(), 0);
     QVERIFY(window.findChild<TavikScrollArea *>()->verticalScrollBar()->value() > 0);
 }
@@ -308,6 +354,7 @@ void TestPoster::settingsAreSavedAndOpened()
     QCOMPARE(second.findChild<TavikImageList *>()->count(), Photograph::ownNames().size() + 1);
     second.poster()->undoStack()->undo(); // even opening is no loss
     QVERIFY(second.poster()->settings() == PosterSettings());
+    QVERIFY(!second.windowTitle().contains("poster.json"_s)); // it isn't what that file holds
     QVERIFY(!first.saveSettings(directory.filePath("nowhere/poster.json"_s)));
     QVERIFY(first.message().contains("nowhere"_s));
 }
@@ -405,6 +452,19 @@ void TestPoster::cancelledBatch()
              QStringList({"p-1080x1080.png"_s, "p-1920x1080.png"_s}));
     QVERIFY(!QImage(directory.filePath("p-1920x1080.png"_s)).isNull());
     QCOMPARE(QFileInfo(old).size(), 3);
+}
+
+void TestPoster::cancelledPicture()
+{
+    const QTemporaryDir directory;
+    PosterWindow window;
+    window.poster()->edit("size"_s, [](PosterSettings &s) { s.width = s.height = 4000; });
+    QSignalSpy finished(window.exporter(), &Exporter::finished);
+    window.exportTo(directory.filePath("large.png"_s));
+    withText<TavikButton>(window, "Cancel"_s)->click();
+    QVERIFY(finished.wait());
+    QVERIFY(window.message().contains("0 of 1"_s));
+    QVERIFY(QDir(directory.path()).isEmpty(QDir::Files | QDir::Hidden));
 }
 
 void TestPoster::unwritableExport()

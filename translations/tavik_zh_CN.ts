@@ -107,7 +107,7 @@
     </message>
     <message>
         <source>Alpha</source>
-        <translation>透明度</translation>
+        <translation>不透明度</translation>
     </message>
 </context>
 <context>

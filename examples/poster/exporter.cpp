@@ -7,11 +7,40 @@
 #include <QImageWriter>
 #include <QSaveFile>
 
+namespace {
+
+/// A file that takes no more once it isn't wanted, so that who writes into it stops at once.
+class CancellableFile : public QSaveFile
+{
+public:
+    CancellableFile(const QString &name, const std::atomic_bool &isCancelled)
+        : QSaveFile(name)
+        , m_isCancelled(isCancelled)
+    {
+    }
+
+protected:
+    qint64 writeData(const char *data, qint64 size) override
+    {
+        return m_isCancelled ? -1 : QSaveFile::writeData(data, size);
+    }
+
+private:
+    const std::atomic_bool &m_isCancelled;
+};
+
+} // namespace
+
 Exporter::Exporter(QObject *parent)
     : QObject(parent)
 {
-    m_next.setSingleShot(true);
-    connect(&m_next, &QTimer::timeout, this, &Exporter::doNext);
+}
+
+Exporter::~Exporter()
+{
+    m_isCancelled = true;
+    if (m_writer)
+        m_writer->wait();
 }
 
 QVector<Exporter::Job> Exporter::jobs(const PosterSettings &settings, const QString &file)
@@ -36,31 +65,39 @@ void Exporter::start(const PosterSettings &settings, const Photograph &photograp
     m_photograph = photograph;
     m_jobs = jobs;
     m_done = 0;
+    m_isCancelled = false;
     Q_EMIT progressed(0, m_jobs.size());
-    m_next.start();
+    writeNext();
 }
 
 void Exporter::cancel()
 {
-    if (isBusy())
-        finish(false, tr("Cancelled: %1 of %2 pictures are written.").arg(m_done).arg(m_jobs.size()));
+    m_isCancelled = true;
 }
 
-void Exporter::doNext()
+void Exporter::writeNext()
 {
+    m_writer.reset(QThread::create([this] { m_problem = write(m_jobs.at(m_done)); }));
+    connect(m_writer.get(), &QThread::finished, this, &Exporter::onWritten);
+    m_writer->start();
+}
+
+void Exporter::onWritten()
+{
+    if (m_problem.isEmpty())
+        Q_EMIT progressed(++m_done, m_jobs.size());
     if (m_done == m_jobs.size())
-        return finish(true, summary());
-    const QString problem = write(m_jobs.at(m_done));
-    if (!problem.isEmpty())
-        return finish(false, problem);
-    ++m_done;
-    m_next.start();
-    Q_EMIT progressed(m_done, m_jobs.size());
+        finish(true, summary());
+    else if (m_isCancelled)
+        finish(false, tr("Cancelled: %1 of %2 pictures are written.").arg(m_done).arg(m_jobs.size()));
+    else if (!m_problem.isEmpty())
+        finish(false, m_problem);
+    else
+        writeNext();
 }
 
 void Exporter::finish(bool isDone, const QString &message)
 {
-    m_next.stop();
     m_jobs.clear();
     m_photograph = Photograph();
     Q_EMIT finished(isDone, message);
@@ -78,7 +115,7 @@ QString Exporter::summary() const
 
 QString Exporter::write(const Job &job) const
 {
-    QSaveFile file(job.file);
+    CancellableFile file(job.file, m_isCancelled);
     if (file.open(QIODevice::WriteOnly)) {
         QImageWriter writer(&file, QByteArrayLiteral("png"));
         if (writer.write(PosterPainter::picture(m_settings, m_photograph, job.size)) && file.commit())

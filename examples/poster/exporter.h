@@ -5,11 +5,14 @@
 #include "postersettings.h"
 
 #include <QObject>
-#include <QTimer>
+#include <QThread>
 #include <QVector>
 
-/// Writes posters into PNG files, one after the other between the events of the application, so that it stays
-/// alive and can cancel.
+#include <atomic>
+#include <memory>
+
+/// Writes posters into PNG files, one after the other on a thread of its own: a large picture takes seconds, in
+/// which the application stays alive and can cancel.
 ///
 /// A file is there wholly or not at all; one that stood there before stays until the new one is complete.
 class Exporter : public QObject
@@ -25,6 +28,7 @@ public:
     };
 
     explicit Exporter(QObject *parent = nullptr);
+    ~Exporter() override;
 
     /// The jobs for all sizes that settings ask for. A single one is written to the file itself, several to
     /// files that are named after it and their sizes: "poster-1920x1080.png".
@@ -34,7 +38,7 @@ public:
     /// under way.
     void start(const PosterSettings &settings, const Photograph &photograph, const QVector<Job> &jobs);
 
-    /// Leaves out the jobs that are not done yet.
+    /// Leaves out the jobs that are not done yet, the one under way too. finished() follows.
     void cancel();
 
     /// Whether jobs are under way.
@@ -48,7 +52,8 @@ Q_SIGNALS:
     void finished(bool isDone, const QString &message);
 
 private:
-    void doNext();
+    void writeNext();
+    void onWritten();
     void finish(bool isDone, const QString &message);
     QString summary() const;
     QString write(const Job &job) const;
@@ -57,7 +62,9 @@ private:
     Photograph m_photograph;
     QVector<Job> m_jobs;
     int m_done = 0;
-    QTimer m_next;
+    std::unique_ptr<QThread> m_writer;
+    QString m_problem; // of the last job
+    std::atomic_bool m_isCancelled{false};
 };
 
 #endif

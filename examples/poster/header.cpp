@@ -59,8 +59,12 @@ void Header::addUndo(QUndoStack *stack)
     connect(redo, &QPushButton::clicked, stack, &QUndoStack::redo);
     connect(stack, &QUndoStack::canUndoChanged, undo, &QWidget::setEnabled);
     connect(stack, &QUndoStack::canRedoChanged, redo, &QWidget::setEnabled);
-    connect(stack, &QUndoStack::undoTextChanged, undo,
-            [=](const QString &text) { undo->setToolTip(tr("Undo: %1").arg(text)); });
-    connect(stack, &QUndoStack::redoTextChanged, redo,
-            [=](const QString &text) { redo->setToolTip(tr("Redo: %1").arg(text)); });
+    const auto tellWhat = [](TavikButton *button) {
+        const QString shortcut = button->toolTip();
+        return [=](const QString &what) {
+            button->setToolTip(what.isEmpty() ? shortcut : tr("%1 (%2)").arg(what, shortcut));
+        };
+    };
+    connect(stack, &QUndoStack::undoTextChanged, undo, tellWhat(undo));
+    connect(stack, &QUndoStack::redoTextChanged, redo, tellWhat(redo));
 }

@@ -9,15 +9,20 @@
 #include <Tavik/TavikComboBox>
 #include <Tavik/TavikContainer>
 #include <Tavik/TavikLabel>
+#include <Tavik/TypographyTool>
 
 void Look::apply(QApplication &app)
 {
     QStyle *style = QStyleFactory::create(QStringLiteral("Fusion"));
     app.setStyle(style);
     app.setPalette(style->standardPalette());
+    QFont font = app.font();
     const QString family = QStringLiteral("Inter");
     if (QFontDatabase().families().contains(family))
-        app.setFont(QFont(family));
+        font.setFamily(family);
+    // Step buttons, arrows and scroll bars are as wide as this font tells.
+    font.setPixelSize(TypographyTool::defualtFontSz().toInt());
+    app.setFont(font);
 }
 
 TavikLabel *Look::label(const QString &text)
@@ -37,6 +42,7 @@ TavikButton *Look::button(const QString &text, double remWidth, bool isOutlined)
 QWidget *Look::place(TavikComboBox *combo, double remWidth)
 {
     combo->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    combo->setFocusPolicy(Qt::StrongFocus); // not by a wheel that scrolls the page under the pointer
     auto *place = new TavikContainer;
     place->removeMargins();
     place->setRemSize(remWidth, FieldHeight);

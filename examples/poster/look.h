@@ -16,7 +16,7 @@ constexpr QColor Ground{0xe9, 0xec, 0xeb};
 constexpr double FieldHeight = 2.5;
 constexpr double Gap = 1;
 
-/// Takes a style and a font that are the same on every desktop.
+/// Takes a style and a font that are the same on every desktop. Works when the rem is known.
 void apply(QApplication &app);
 
 /// A label whose text begins where it stands.

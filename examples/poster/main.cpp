@@ -51,10 +51,10 @@ int main(int argc, char **argv)
     if (!mistake.isEmpty())
         return fail(mistake, BadValue);
 
-    Look::apply(app);
     LenConverter::initRem(); // before the first control
     if (commandLine.rem() > 0)
         LenConverter::m_rem = commandLine.rem();
+    Look::apply(app);
     QTranslator tavik; // the library never loads its translations by itself
     if (tavik.load(QLocale(), QStringLiteral("tavik"), QStringLiteral("_"),
                    QStringLiteral(TAVIK_TRANSLATIONS)))

@@ -3,6 +3,7 @@
 #include "look.h"
 
 #include <QAbstractButton>
+#include <QLabel>
 
 #include <Tavik/LenConverter>
 #include <Tavik/TavikContainer>
@@ -20,7 +21,8 @@ void nameForReaders(QWidget *widget, const QString &name)
 {
     QWidget *control = widget->focusProxy() ? widget->focusProxy() : widget;
     const auto *button = qobject_cast<QAbstractButton *>(control);
-    if (control->accessibleName().isEmpty() && (!button || button->text().isEmpty()))
+    const bool hasText = qobject_cast<QLabel *>(control) || (button && !button->text().isEmpty());
+    if (control->accessibleName().isEmpty() && !hasText)
         control->setAccessibleName(name);
 }
 
@@ -68,6 +70,9 @@ void Panel::addWide(QWidget *widget)
 void Panel::finish(bool isOpen)
 {
     updateExpandedHeight(LenConverter::pxToRem(m_rows->sizeHint().height() + frame));
+    // Or Tab would lead through the rows of a closed panel, where nobody sees them.
+    connect(this, &Panel::animationStarted, m_rows, &QWidget::show);
+    connect(this, &Panel::animationFinished, m_rows, [this] { m_rows->setVisible(remExpandHeight() > 0); });
     if (isOpen)
         expand();
     connect(m_poster, &Poster::changed, this, [this] { follow(m_poster->settings()); });

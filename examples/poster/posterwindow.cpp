@@ -11,6 +11,7 @@
 #include "preview.h"
 #include "settingsfile.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QDir>
@@ -18,7 +19,6 @@
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QImageReader>
-#include <QLineEdit>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QScreen>
@@ -31,9 +31,9 @@
 namespace {
 
 /// Whether a field is about to take undo for its own text; here it is the poster's.
-bool isUndoInField(const QObject *watched, const QEvent *event)
+bool isUndoInField(const QEvent *event)
 {
-    if (event->type() != QEvent::ShortcutOverride || !qobject_cast<const QLineEdit *>(watched))
+    if (event->type() != QEvent::ShortcutOverride)
         return false;
     const auto *key = static_cast<const QKeyEvent *>(event);
     return key->matches(QKeySequence::Undo) || key->matches(QKeySequence::Redo);
@@ -44,6 +44,18 @@ bool isStrayWheel(const QObject *watched, const QEvent *event)
 {
     const auto *combo = qobject_cast<const QComboBox *>(watched);
     return event->type() == QEvent::Wheel && combo && !combo->hasFocus();
+}
+
+/// Asks for a file to write; a name without a suffix gets that of the proposed one. Empty if cancelled.
+QString askForTarget(QWidget *parent, const QString &title, const QString &proposed, const QString &filter,
+                     QFileDialog::Options options = {})
+{
+    QFileDialog dialog(parent, title, QFileInfo(proposed).path(), filter);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(QFileInfo(proposed).suffix());
+    dialog.setOptions(options);
+    dialog.selectFile(QFileInfo(proposed).fileName());
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
 
 } // namespace
@@ -67,6 +79,8 @@ PosterWindow::PosterWindow(QWidget *parent)
     connectExporter();
     connect(&m_poster, &Poster::photographMissing, m_messages, &MessageBar::complain);
     connect(m_poster.undoStack(), &QUndoStack::cleanChanged, this, &PosterWindow::showTitle);
+    connect(m_poster.undoStack(), &QUndoStack::indexChanged, this, &PosterWindow::forgetUndoneFile);
+    connect(qApp, &QApplication::focusChanged, &m_poster, &Poster::beginStep); // by keys
     qApp->installEventFilter(this);
     showTitle();
     const QSize titleBar(0, style()->pixelMetric(QStyle::PM_TitleBarHeight));
@@ -143,6 +157,7 @@ QWidget *PosterWindow::buildPanels()
         });
     }
     layout->addStretch(1);
+    area->setFocusPolicy(Qt::NoFocus); // its keys come to it from the controls inside
     area->setWidgetResizable(true);
     area->setWidget(column);
     column->setAutoFillBackground(false); // the area's own ground
@@ -175,7 +190,17 @@ void PosterWindow::openSettings(const QString &file)
     m_poster.edit(tr("opening %1").arg(QFileInfo(file).fileName()),
                   [=](PosterSettings &s) { s = settings; });
     m_file = file;
+    m_openedAt = m_poster.undoStack()->index();
     m_poster.undoStack()->setClean();
+    showTitle();
+}
+
+void PosterWindow::forgetUndoneFile(int index)
+{
+    if (index >= m_openedAt)
+        return;
+    m_file.clear(); // or the next save would write another poster over what was opened
+    m_openedAt = 0;
     showTitle();
 }
 
@@ -200,7 +225,7 @@ bool PosterWindow::saveAs()
 {
     const QString start = m_file.isEmpty() ? QStringLiteral("poster.json") : m_file;
     const QString file =
-        QFileDialog::getSaveFileName(this, tr("Save the poster's settings"), start, tr("Posters (*.json)"));
+        askForTarget(this, tr("Save the poster's settings"), start, tr("Posters (*.json)"));
     return !file.isEmpty() && saveSettings(file);
 }
 
@@ -222,8 +247,10 @@ void PosterWindow::askToExport()
 {
     const bool isBatch = m_poster.settings().isBatch;
     const QString title = isBatch ? tr("Export: each file's name will end in its size") : tr("Export");
+    QFileDialog::Options options;
+    options.setFlag(QFileDialog::DontConfirmOverwrite, isBatch); // mayReplace() asks
     const QString file =
-        QFileDialog::getSaveFileName(this, title, QStringLiteral("poster.png"), tr("Pictures (*.png)"));
+        askForTarget(this, title, QStringLiteral("poster.png"), tr("Pictures (*.png)"), options);
     if (!file.isEmpty() && (!isBatch || mayReplace(Exporter::jobs(m_poster.settings(), file))))
         exportTo(file);
 }
@@ -271,7 +298,7 @@ bool PosterWindow::eventFilter(QObject *watched, QEvent *event)
     // All that is done by one press of the mouse, in the popup and the sampler too, is undone at once.
     if (event->type() == QEvent::MouseButtonPress && watched->isWindowType())
         m_poster.beginStep();
-    if (!isUndoInField(watched, event) && !isStrayWheel(watched, event))
+    if (!isUndoInField(event) && !isStrayWheel(watched, event))
         return QWidget::eventFilter(watched, event);
     event->ignore(); // leaves the keys to the shortcuts, and the wheel to the panels around the control
     return true;

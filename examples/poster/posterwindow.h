@@ -56,6 +56,7 @@ private:
     QWidget *buildPanels();
     void connectExporter();
     void showTitle();
+    void forgetUndoneFile(int index);
     bool save();
     bool saveAs();
     void askToOpen();
@@ -70,6 +71,7 @@ private:
     MessageBar *m_messages;
     PhotoPanel *m_photographs;
     QString m_file;
+    int m_openedAt = 0; // of the undo stack
     int m_movingPanels = 0;
 };
 

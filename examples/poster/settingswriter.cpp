@@ -14,7 +14,7 @@ void SettingsWriter::file(const char *name, const QString &value)
 {
     const QString relative = QDir(m_directory).relativeFilePath(value);
     const bool isBelow = !relative.startsWith(QLatin1String("..")) && QDir::isRelativePath(relative);
-    insert(name, isBelow && !Photograph::isOwn(value) ? relative : value);
+    insert(name, isBelow && !Photograph::isOwn(relative) ? relative : value);
 }
 
 void SettingsWriter::choice(const char *name, int value, std::initializer_list<const char *> choices)
