@@ -395,8 +395,6 @@ void TestPoster::brokenSettings_data()
     row("export", "sizes", "a4"_s, "must be a list"_s);
     row("export", "sizes", QJsonArray{"a4"_s, 3}, "may hold nothing but full-hd"_s);
     row("photograph", "file", QString(), "must name a photograph"_s);
-    row("photograph", "file", "gone.png"_s, "gone.png can't be read"_s);
-    row("photograph", "file", "own:gone"_s, "no photograph"_s);
 }
 
 void TestPoster::brokenSettings()
@@ -431,6 +429,16 @@ void TestPoster::aBrokenFileLosesNothing()
     QVERIFY(window.message().contains("poster.json"_s));
     QCOMPARE(window.poster()->settings().photograph, good);
     QCOMPARE(window.poster()->undoStack()->count(), 1);
+
+    // What has lost its photograph opens without it, and says so.
+    PosterSettings orphan;
+    orphan.caption = "Orphan"_s;
+    orphan.photograph = directory.filePath("gone.png"_s);
+    QCOMPARE(SettingsFile(settings).write(orphan), QString());
+    window.openSettings(settings);
+    QVERIFY(window.message().contains("gone.png"_s));
+    QCOMPARE(window.poster()->settings().caption, orphan.caption);
+    QCOMPARE(window.poster()->settings().photograph, orphan.photograph);
 }
 
 void TestPoster::cancelledBatch()

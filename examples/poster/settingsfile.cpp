@@ -1,6 +1,5 @@
 #include "settingsfile.h"
 
-#include "photograph.h"
 #include "settingsfields.h"
 #include "settingsreader.h"
 #include "settingswriter.h"
@@ -34,9 +33,6 @@ QString SettingsFile::read(PosterSettings &settings) const
     describeFields(reader, read);
     if (!reader.error().isEmpty())
         return fault(reader.error());
-    const QString missing = read.hasPhotograph ? Photograph(read.photograph).error() : QString();
-    if (!missing.isEmpty())
-        return fault(missing);
     settings = read;
     return {};
 }
