@@ -26,6 +26,9 @@ private Q_SLOTS:
     void panel();
     void tabOrderOfThePopup();
     void mark();
+    void markIsSeenAroundTheTitle();
+    void marksNoListThatDropsDown();
+    void sheetForAllWidgets();
     void coversLaterWidgets();
     void offByDefault();
     void controlsGoWhileFocused();
@@ -262,6 +265,37 @@ void TestKeyboardAccess::mark()
     edit.show();
     edit.setFocus();
     QCOMPARE(marked(stage.window), QRect());
+}
+
+void TestKeyboardAccess::markIsSeenAroundTheTitle()
+{
+    Stage<TavikExpandable> stage(QStringLiteral("Effects"), 5.0, true); // which its title fills
+    type({Qt::Key_F2});
+    const QRect title = marked(stage.window);
+    const QImage picture = Support::picture(&stage.window);
+    for (const QPoint &beside :
+         {QPoint(title.center().x(), title.top() - 1), QPoint(title.center().x(), title.bottom() + 1),
+          QPoint(title.left() - 1, title.center().y()), QPoint(title.right() + 1, title.center().y())})
+        QCOMPARE(picture.pixelColor(beside), QColor(Qt::black));
+}
+
+void TestKeyboardAccess::marksNoListThatDropsDown()
+{
+    allowWarning(QStringLiteral("This plugin does not support"));
+    Stage<TavikComboBox> stage;
+    stage.control->addItem(QStringLiteral("text"));
+    type({Qt::Key_Space});
+    QTRY_COMPARE(QApplication::focusWidget(), stage.control->view());
+    QVERIFY(!stage.control->view()->window()->findChild<QFocusFrame *>());
+}
+
+void TestKeyboardAccess::sheetForAllWidgets()
+{
+    TavikColorWell well;
+    well.setStyleSheet(QStringLiteral("QWidget { background-color: #ffeecc }"));
+    const QImage before = Support::picture(&well);
+    TavikKeyboardAccess::install(&well);
+    QCOMPARE(Support::picture(&well), before);
 }
 
 void TestKeyboardAccess::coversLaterWidgets()
