@@ -122,6 +122,7 @@ void TestKeyboardAccess::square()
 void TestKeyboardAccess::squareReachesEachPixel()
 {
     Stage<TavikColorPicker> stage(190, 136);
+    stage.control->setFixedSize(300, 200); // the square stays as large as it was made
     for (int x = 0; x <= 188; ++x) {
         QCOMPARE(qRound(stage.control->currentColor().saturationF() * 188), x);
         type({int(Qt::SHIFT) + Qt::Key_Right});
