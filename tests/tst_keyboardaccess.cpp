@@ -24,6 +24,7 @@ private Q_SLOTS:
     void gradientHandles();
     void gradientParts();
     void panel();
+    void closedPanel();
     void tabOrderOfThePopup();
     void mark();
     void markIsSeenAroundTheTitle();
@@ -220,6 +221,28 @@ void TestKeyboardAccess::panel()
     QCOMPARE(toggled.count(), 2);
     type({Qt::Key_Backtab});
     QVERIFY(stage.control->hasFocus()); // with no stop at the arrow
+}
+
+void TestKeyboardAccess::closedPanel()
+{
+    Stage<TavikExpandable> stage(QStringLiteral("Effects"), 5.0, true);
+    auto *edit = new TavikLineEdit;
+    stage.control->addWidget(edit);
+    edit->show();
+    edit->setFocus();
+    const QSize hint = stage.control->sizeHint();
+    QSignalSpy finished(stage.control, &TavikExpandable::animationFinished);
+    stage.control->unexpand();
+    QVERIFY(finished.wait());
+    QVERIFY(!edit->hasFocus() && !edit->isVisible());
+    QCOMPARE(stage.control->sizeHint().width(), hint.width());
+    stage.control->setFocus();
+    type({Qt::Key_Tab});
+    QVERIFY(stage.control->hasFocus()); // there is nothing else to go to
+    type({Qt::Key_Space});
+    QTRY_VERIFY(edit->isVisible());
+    type({Qt::Key_Tab});
+    QVERIFY(edit->hasFocus());
 }
 
 void TestKeyboardAccess::tabOrderOfThePopup()
