@@ -21,7 +21,7 @@ PopupKeys::PopupKeys(TavikColorPopup *popup)
 
 bool PopupKeys::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == popup() && event->type() == QEvent::Show)
+    if (watched == parent() && event->type() == QEvent::Show)
         popup()->m_picker->setFocus(Qt::PopupFocusReason);
     return false;
 }

@@ -23,7 +23,7 @@ SamplerKeys::SamplerKeys(Screenshot *sampler)
 
 bool SamplerKeys::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched != sampler())
+    if (watched != parent())
         return false;
     if (event->type() == QEvent::MouseMove)
         m_pos = static_cast<QMouseEvent *>(event)->pos();

@@ -21,8 +21,7 @@ public:
     {
         const QColor color = square->currentColor();
         const QSize size = extent(square);
-        return {qRound(color.saturationF() * size.width()),
-                qRound((1.0 - color.valueF()) * size.height())};
+        return {qRound(color.saturationF() * size.width()), qRound((1.0 - color.valueF()) * size.height())};
     }
 };
 
