@@ -24,8 +24,12 @@ private Q_SLOTS:
     void gradientHandles();
     void gradientParts();
     void panel();
+    void closedPanel();
     void tabOrderOfThePopup();
     void mark();
+    void markIsSeenAroundTheTitle();
+    void marksNoListThatDropsDown();
+    void sheetForAllWidgets();
     void coversLaterWidgets();
     void offByDefault();
     void controlsGoWhileFocused();
@@ -119,6 +123,7 @@ void TestKeyboardAccess::square()
 void TestKeyboardAccess::squareReachesEachPixel()
 {
     Stage<TavikColorPicker> stage(190, 136);
+    stage.control->setFixedSize(300, 200); // the square stays as large as it was made
     for (int x = 0; x <= 188; ++x) {
         QCOMPARE(qRound(stage.control->currentColor().saturationF() * 188), x);
         type({int(Qt::SHIFT) + Qt::Key_Right});
@@ -218,6 +223,28 @@ void TestKeyboardAccess::panel()
     QVERIFY(stage.control->hasFocus()); // with no stop at the arrow
 }
 
+void TestKeyboardAccess::closedPanel()
+{
+    Stage<TavikExpandable> stage(QStringLiteral("Effects"), 5.0, true);
+    auto *edit = new TavikLineEdit;
+    stage.control->addWidget(edit);
+    edit->show();
+    edit->setFocus();
+    const QSize hint = stage.control->sizeHint();
+    QSignalSpy finished(stage.control, &TavikExpandable::animationFinished);
+    stage.control->unexpand();
+    QVERIFY(finished.wait());
+    QVERIFY(!edit->hasFocus() && !edit->isVisible());
+    QCOMPARE(stage.control->sizeHint().width(), hint.width());
+    stage.control->setFocus();
+    type({Qt::Key_Tab});
+    QVERIFY(stage.control->hasFocus()); // there is nothing else to go to
+    type({Qt::Key_Space});
+    QTRY_VERIFY(edit->isVisible());
+    type({Qt::Key_Tab});
+    QVERIFY(edit->hasFocus());
+}
+
 void TestKeyboardAccess::tabOrderOfThePopup()
 {
     TavikColorPopup popup;
@@ -262,6 +289,37 @@ void TestKeyboardAccess::mark()
     edit.show();
     edit.setFocus();
     QCOMPARE(marked(stage.window), QRect());
+}
+
+void TestKeyboardAccess::markIsSeenAroundTheTitle()
+{
+    Stage<TavikExpandable> stage(QStringLiteral("Effects"), 5.0, true); // which its title fills
+    type({Qt::Key_F2});
+    const QRect title = marked(stage.window);
+    const QImage picture = Support::picture(&stage.window);
+    for (const QPoint &beside :
+         {QPoint(title.center().x(), title.top() - 1), QPoint(title.center().x(), title.bottom() + 1),
+          QPoint(title.left() - 1, title.center().y()), QPoint(title.right() + 1, title.center().y())})
+        QCOMPARE(picture.pixelColor(beside), QColor(Qt::black));
+}
+
+void TestKeyboardAccess::marksNoListThatDropsDown()
+{
+    allowWarning(QStringLiteral("This plugin does not support"));
+    Stage<TavikComboBox> stage;
+    stage.control->addItem(QStringLiteral("text"));
+    type({Qt::Key_Space});
+    QTRY_COMPARE(QApplication::focusWidget(), stage.control->view());
+    QVERIFY(!stage.control->view()->window()->findChild<QFocusFrame *>());
+}
+
+void TestKeyboardAccess::sheetForAllWidgets()
+{
+    TavikColorWell well;
+    well.setStyleSheet(QStringLiteral("QWidget { background-color: #ffeecc }"));
+    const QImage before = Support::picture(&well);
+    TavikKeyboardAccess::install(&well);
+    QCOMPARE(Support::picture(&well), before);
 }
 
 void TestKeyboardAccess::coversLaterWidgets()

@@ -14,7 +14,7 @@ void announce(TavikColorButton *button)
 } // namespace
 
 AccessibleColorButton::AccessibleColorButton(TavikColorButton *button)
-    : QAccessibleWidget(button, QAccessible::Button)
+    : AccessibleButton(button)
     , m_changed(
           QObject::connect(button, &TavikColorButton::colorChanged, button, [button] { announce(button); }))
 {
@@ -27,33 +27,9 @@ AccessibleColorButton::~AccessibleColorButton()
 
 QString AccessibleColorButton::text(QAccessible::Text type) const
 {
-    const QString text = QAccessibleWidget::text(type);
+    const QString text = AccessibleButton::text(type);
     if (type != QAccessible::Name)
         return text;
-    return tr("%1, %2").arg(text.isEmpty() ? tr("Color") : text, ColorName::of(button()->currentColor()));
-}
-
-QAccessible::State AccessibleColorButton::state() const
-{
-    QAccessible::State state = QAccessibleWidget::state();
-    state.pressed = button()->isDown();
-    return state;
-}
-
-QStringList AccessibleColorButton::actionNames() const
-{
-    return QStringList(pressAction()) << QAccessibleWidget::actionNames();
-}
-
-void AccessibleColorButton::doAction(const QString &name)
-{
-    if (name == pressAction())
-        button()->click();
-    else
-        QAccessibleWidget::doAction(name);
-}
-
-TavikColorButton *AccessibleColorButton::button() const
-{
-    return static_cast<TavikColorButton *>(widget());
+    const QColor color = static_cast<TavikColorButton *>(widget())->currentColor();
+    return tr("%1, %2").arg(text.isEmpty() ? tr("Color") : text, ColorName::of(color));
 }

@@ -1,9 +1,11 @@
 // Makes the library's controls known to screen readers, as long as the library is loaded.
 
+#include "accessibleaddbutton_p.h"
 #include "accessiblecolorbutton_p.h"
 #include "accessiblepalette_p.h"
 #include "accessiblepanel_p.h"
 #include "accessiblesquare_p.h"
+#include "tavikbutton.h"
 #include "tavikcolorbutton.h"
 #include "tavikcolorpicker.h"
 #include "tavikcolorpopup.h"
@@ -29,6 +31,8 @@ QAccessibleInterface *makeInterface(const QString &className, QObject *object)
         return new AccessibleColorButton(static_cast<TavikColorButton *>(object));
     if (is(TavikColorPopup::staticMetaObject))
         return new QAccessibleWidget(static_cast<TavikColorPopup *>(object), QAccessible::Dialog);
+    if (is(TavikButton::staticMetaObject) && qobject_cast<TavikColorWell *>(object->parent()))
+        return new AccessibleAddButton(static_cast<TavikButton *>(object));
     return nullptr;
 }
 

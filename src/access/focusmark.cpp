@@ -3,18 +3,38 @@
 #include "controlkeys_p.h"
 #include "keyboardfilter_p.h"
 
+#include <QAbstractItemView>
 #include <QAbstractSpinBox>
 #include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QProxyStyle>
 
 namespace {
 
-/// They show a cursor, or a border of their own.
+/// Puts the frame over all others in the window or scroll area: beside a control that fills its parent there
+/// is no place to be seen.
+class FrameStyle : public QProxyStyle
+{
+public:
+    int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+                  QStyleHintReturn *returned) const override
+    {
+        return hint == SH_FocusFrame_AboveWidget ? 1
+                                                 : QProxyStyle::styleHint(hint, option, widget, returned);
+    }
+};
+
+bool isDroppedDown(const QWidget *widget)
+{
+    return qobject_cast<const QAbstractItemView *>(widget) && widget->window()->windowType() == Qt::Popup;
+}
+
+/// They show a cursor, or a border of their own, or have a window to themselves.
 bool showsFocus(const QWidget *widget)
 {
     return qobject_cast<const QLineEdit *>(widget) || qobject_cast<const QAbstractSpinBox *>(widget) ||
-           qobject_cast<const QComboBox *>(widget);
+           qobject_cast<const QComboBox *>(widget) || isDroppedDown(widget);
 }
 
 QWidget *marked(QWidget *focused)
@@ -42,7 +62,9 @@ void FocusMark::setKeysInUse(bool inUse)
 
 FocusMark::FocusMark(QObject *parent)
     : QObject(parent)
+    , m_style(new FrameStyle)
 {
+    m_style->setParent(this);
     connect(qApp, &QApplication::focusChanged, this, &FocusMark::update);
 }
 
@@ -60,5 +82,6 @@ void FocusMark::update()
         return;
     QWidget *around = marked(focused);
     m_frame = new QFocusFrame(around);
+    m_frame->setStyle(m_style);
     m_frame->setWidget(around);
 }

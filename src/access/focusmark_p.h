@@ -24,7 +24,8 @@ private:
     void update();
 
     bool m_keysInUse = false;
-    QPointer<QFocusFrame> m_frame; // a child of the window that it is in
+    QStyle *m_style;
+    QPointer<QFocusFrame> m_frame; // a child of the window or scroll area that it is in
 };
 
 #endif

@@ -13,6 +13,7 @@ public:
     static bool isExpanded(const TavikExpandable *panel) { return panel->m_expanded; }
     static QString title(const TavikExpandable *panel) { return panel->m_titleLabel->text(); }
     static QWidget *titleBar(const TavikExpandable *panel) { return panel->m_titleBar; }
+    static QWidget *content(const TavikExpandable *panel) { return panel->m_innerContainer; }
     static TavikButton *arrow(const TavikExpandable *panel) { return panel->m_expandButton; }
 };
 

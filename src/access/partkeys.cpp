@@ -16,6 +16,8 @@ PartKeys::PartKeys(QWidget *control, std::unique_ptr<ControlParts> parts)
     , m_spot(new QWidget(control))
 {
     m_spot->setAttribute(Qt::WA_TransparentForMouseEvents);
+    m_spot->setAttribute(
+        Qt::WA_NoSystemBackground); // a sheet for every QWidget would paint it over the part
     m_spot->show();
     placeSpot();
     m_parts->follow(this, [this](int) { placeSpot(); });

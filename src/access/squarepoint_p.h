@@ -8,21 +8,21 @@
 #include <QSize>
 
 /// Where saturation and value are in the saturation/value square, in pixels.
-namespace SquarePoint {
-
-/// The right and the lower edge belong to the square too: that is where 100 % and 0 % are.
-inline QSize extent(const TavikColorPicker *square)
+class SquarePoint
 {
-    return {qMax(0, square->width() - 2), qMax(0, square->height() - 2)};
-}
+public:
+    /// The right and the lower edge belong to the square too: that is where 100 % and 0 % are.
+    static QSize extent(const TavikColorPicker *square)
+    {
+        return {qMax(0, square->m_width), qMax(0, square->m_height)};
+    }
 
-inline QPoint of(const TavikColorPicker *square)
-{
-    const QColor color = square->currentColor();
-    const QSize size = extent(square);
-    return {qRound(color.saturationF() * size.width()), qRound((1.0 - color.valueF()) * size.height())};
-}
-
-} // namespace SquarePoint
+    static QPoint of(const TavikColorPicker *square)
+    {
+        const QColor color = square->currentColor();
+        const QSize size = extent(square);
+        return {qRound(color.saturationF() * size.width()), qRound((1.0 - color.valueF()) * size.height())};
+    }
+};
 
 #endif

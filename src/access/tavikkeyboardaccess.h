@@ -20,9 +20,10 @@ class QWidget;
 /// | Expandable panel | Space or Return on its title opens and closes it. |
 /// | Screen sampler | Arrows one pixel, Page Up, Page Down and arrows with Shift ten; Return or Space picks, Escape leaves. |
 ///
-/// A popup begins with its square, and Tab goes through it from top to bottom. While keys are used, a
-/// frame stands around whatever has the focus, unless that shows a text cursor. Where the platform doesn't let an application
-/// move the pointer, the sampler's frame moves without it.
+/// A popup begins with its square, and Tab goes through it from top to bottom. The content of a closed panel
+/// is hidden, so that Tab passes by it. While keys are used, a frame stands around whatever has the focus,
+/// unless that shows a text cursor or is a combo box. Where the platform doesn't let an application move the
+/// pointer, the sampler's frame moves without it.
 ///
 /// Without a call of install() all controls keep the keys that the toolkit gives them.
 class TAVIK_EXPORT TavikKeyboardAccess

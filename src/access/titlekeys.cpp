@@ -9,6 +9,8 @@ TitleKeys::TitleKeys(TavikExpandable *panel)
 {
     panel->setFocusPolicy(Qt::TabFocus);
     PanelParts::arrow(panel)->setFocusPolicy(Qt::NoFocus);
+    connect(panel, &TavikExpandable::remExpandHeightChanged, this, &TitleKeys::updateContent);
+    updateContent();
 }
 
 QWidget *TitleKeys::marked() const
@@ -23,6 +25,16 @@ bool TitleKeys::press(const QKeyEvent &key)
     if (!key.isAutoRepeat())
         PanelParts::arrow(panel())->click();
     return true;
+}
+
+/// A closed panel only cuts its content off, and the focus would go on through what nobody sees.
+void TitleKeys::updateContent()
+{
+    QWidget *content = PanelParts::content(panel());
+    QSizePolicy policy = content->sizePolicy();
+    policy.setRetainSizeWhenHidden(true); // the panel is as wide closed as open
+    content->setSizePolicy(policy);
+    content->setVisible(PanelParts::isExpanded(panel()) || panel()->remExpandHeight() > 0.0);
 }
 
 TavikExpandable *TitleKeys::panel() const

@@ -6,7 +6,7 @@
 class TavikExpandable;
 
 /// Lets Space and Return on the title of an expandable panel open and close it. The arrow beside the title
-/// then needs no focus of its own.
+/// then needs no focus of its own, and the content of a closed panel takes none.
 class TitleKeys : public ControlKeys
 {
     Q_OBJECT
@@ -20,6 +20,7 @@ protected:
     bool press(const QKeyEvent &key) override;
 
 private:
+    void updateContent();
     TavikExpandable *panel() const;
 };
 

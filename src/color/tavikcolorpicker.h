@@ -69,6 +69,8 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    friend class SquarePoint;
+
     bool isEmpty() const;
     QRectF circle() const;
     void paintSquare(QPainter &painter) const;
