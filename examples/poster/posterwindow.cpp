@@ -179,6 +179,12 @@ void PosterWindow::showTitle()
     setWindowModified(!m_poster.undoStack()->isClean());
 }
 
+PosterWindow::~PosterWindow()
+{
+    // It tells of its emptying when this window is half gone.
+    m_poster.undoStack()->disconnect(this);
+}
+
 void PosterWindow::openSettings(const QString &file)
 {
     PosterSettings settings;

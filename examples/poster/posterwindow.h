@@ -17,6 +17,7 @@ class PosterWindow : public QWidget
 
 public:
     explicit PosterWindow(QWidget *parent = nullptr);
+    ~PosterWindow() override;
 
     /// A good size for the window, in pixels.
     static QSize goodSize();
