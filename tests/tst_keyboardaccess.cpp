@@ -340,6 +340,9 @@ void TestKeyboardAccess::coversLaterWidgets()
     well->setFocus();
     type({Qt::Key_Space});
     QCOMPARE(selected.count(), 1);
+    auto *popup = new TavikColorPopup(stage.control); // which becomes a window in its constructor
+    popup->showColorPopup({10, 10}, Qt::red);
+    QCOMPARE(QApplication::focusWidget(), popup->findChild<TavikColorPicker *>());
 }
 
 void TestKeyboardAccess::offByDefault()

@@ -60,10 +60,11 @@ bool KeyboardFilter::covers(const QWidget *widget)
 bool KeyboardFilter::eventFilter(QObject *, QEvent *event)
 {
     switch (event->type()) {
-    case QEvent::ChildAdded: // while it is constructed, it is not yet what it will be; it is polished later
+    case QEvent::ChildAdded:
     case QEvent::ChildPolished: {
         QObject *child = static_cast<QChildEvent *>(event)->child();
-        if (child->isWidgetType())
+        // It may be added in the middle of its constructor, but is not polished before the end of it.
+        if (child->isWidgetType() && static_cast<QWidget *>(child)->testAttribute(Qt::WA_WState_Polished))
             cover(static_cast<QWidget *>(child));
         break;
     }
