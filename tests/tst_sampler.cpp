@@ -1,10 +1,10 @@
 #include "paintmouserect_p.h"
 #include "screenshot_p.h"
 #include "support.h"
+#include "xserver.h"
 
 #include <QPainter>
 #include <QPointer>
-#include <QProcess>
 #include <QScreen>
 #include <QSignalSpy>
 
@@ -565,18 +565,7 @@ int main(int argc, char **argv)
     if (qgetenv("QT_QPA_PLATFORM") == "offscreen")
         return runOnPlatform(argc, argv);
 
-    QProcess server;
-    server.start(QStringLiteral("Xvfb"),
-                 {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
-                  QStringLiteral("0"), QStringLiteral("1280x1024x24"), QStringLiteral("-nolisten"),
-                  QStringLiteral("tcp")});
-    if (!server.waitForReadyRead())
-        qFatal("Xvfb is needed (Debian package xvfb)");
-    qputenv("DISPLAY", ':' + server.readLine().trimmed());
-    qputenv("QT_QPA_PLATFORM", "xcb");
-    const int result = runOnPlatform(argc, argv);
-    server.terminate();
-    server.waitForFinished();
-    return result;
+    const Support::XServer server;
+    return runOnPlatform(argc, argv);
 }
 #include "tst_sampler.moc"

@@ -38,6 +38,9 @@ const std::vector<Action> &lifetimes(); // lifetimes.cpp
 /// A step of any kind, chosen by weight.
 Deed any(Random &random);
 
+/// A step that opens or ends a sampler.
+Deed sampling(Random &random);
+
 /// A call of one of a class's public functions.
 Deed set(Random &random, const char *className);
 
