@@ -12,7 +12,6 @@ struct ControlClass
 {
     const char *name;
     QWidget *(*make)(QWidget *parent);
-    const QMetaObject *meta;
     const QMetaObject *base;
     int methods; // signals and slots
     int properties;
@@ -22,7 +21,7 @@ template <class Class, class Base>
 ControlClass controlClass(const char *name, int methods = 0, int properties = 0)
 {
     const auto make = [](QWidget *parent) -> QWidget * { return new Class(parent); };
-    return {name, make, &Class::staticMetaObject, &Base::staticMetaObject, methods, properties};
+    return {name, make, &Base::staticMetaObject, methods, properties};
 }
 
 /// All of them.

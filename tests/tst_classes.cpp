@@ -1,7 +1,5 @@
+#include "classes.h"
 #include "support.h"
-
-#include <Tavik/LenConverter>
-#include <Tavik/Tavik>
 
 #include <QLayout>
 #include <QScrollBar>
@@ -26,22 +24,8 @@ private Q_SLOTS:
 
 namespace {
 
-using Maker = std::function<QWidget *(QWidget *parent)>;
 using Widget = std::unique_ptr<QWidget>;
 using SheetMaker = std::function<QString()>;
-
-struct Members
-{
-    int methods = 0; // signals and slots
-    int properties = 0;
-};
-
-template <class Class, class Base>
-void addClass(const char *name, Members members = {})
-{
-    QTest::newRow(name) << Maker([](QWidget *parent) { return new Class(parent); })
-                        << &Base::staticMetaObject << members.methods << members.properties;
-}
 
 template <class Class, class... Arguments>
 SheetMaker sheetOf(Arguments... arguments)
@@ -81,66 +65,41 @@ QString comboBoxSheet(bool ofView, int rem, double fontRem)
 
 } // namespace
 
-Q_DECLARE_METATYPE(Maker)
+Q_DECLARE_METATYPE(const Support::ControlClass *)
 Q_DECLARE_METATYPE(SheetMaker)
-Q_DECLARE_METATYPE(const QMetaObject *)
 
 void TestClasses::madeFromAParent_data()
 {
-    QTest::addColumn<Maker>("make");
-    QTest::addColumn<const QMetaObject *>("base");
-    QTest::addColumn<int>("methods");
-    QTest::addColumn<int>("properties");
-    addClass<TavikLabel, QLabel>("TavikLabel");
-    addClass<TavikButton, QPushButton>("TavikButton");
-    addClass<TavikButtonGroup, QWidget>("TavikButtonGroup", {2, 0});
-    addClass<TavikCheckBox, QCheckBox>("TavikCheckBox");
-    addClass<TavikRadioButton, QRadioButton>("TavikRadioButton");
-    addClass<TavikLineEdit, QLineEdit>("TavikLineEdit");
-    addClass<TavikSpinbox, QSpinBox>("TavikSpinbox");
-    addClass<TavikDoubleSpinbox, QDoubleSpinBox>("TavikDoubleSpinbox");
-    addClass<TavikComboBox, QComboBox>("TavikComboBox");
-    addClass<TavikFontFamilyComboBox, TavikComboBox>("TavikFontFamilyComboBox");
-    addClass<TavikSlider, QSlider>("TavikSlider");
-    addClass<TavikDial, QDial>("TavikDial");
-    addClass<TavikSeperateLine, QLabel>("TavikSeperateLine");
-    addClass<TavikContainer, QWidget>("TavikContainer");
-    addClass<TavikExpandable, QWidget>("TavikExpandable", {3, 1});
-    addClass<TavikScrollArea, QScrollArea>("TavikScrollArea");
-    addClass<TavikImageList, QListWidget>("TavikImageList");
-    addClass<TavikColorButton, QPushButton>("TavikColorButton", {3, 0});
-    addClass<TavikColorPicker, QWidget>("TavikColorPicker", {1, 0});
-    addClass<TavikColorSilder, QSlider>("TavikColorSilder");
-    addClass<TavikColorWell, QWidget>("TavikColorWell", {2, 0});
-    addClass<TavikGradientBar, QWidget>("TavikGradientBar", {5, 0});
+    QTest::addColumn<const Support::ControlClass *>("control");
+    for (const Support::ControlClass &control : Support::controlClasses())
+        QTest::newRow(control.name) << &control;
 }
 
 void TestClasses::madeFromAParent()
 {
-    QFETCH(Maker, make);
-    QFETCH(const QMetaObject *, base);
+    QFETCH(const Support::ControlClass *, control);
     QWidget parent;
-    const QWidget *control = make(&parent);
-    QCOMPARE(control->parentWidget(), &parent);
+    const QWidget *made = control->make(&parent);
+    QCOMPARE(made->parentWidget(), &parent);
 
-    const QMetaObject *meta = control->metaObject();
-    QCOMPARE(meta->className(), QTest::currentDataTag());
-    QCOMPARE(meta->superClass(), base);
-    QTEST(meta->methodCount() - meta->methodOffset(), "methods");
-    QTEST(meta->propertyCount() - meta->propertyOffset(), "properties");
+    const QMetaObject *meta = made->metaObject();
+    QCOMPARE(meta->className(), control->name);
+    QCOMPARE(meta->superClass(), control->base);
+    QCOMPARE(meta->methodCount() - meta->methodOffset(), control->methods);
+    QCOMPARE(meta->propertyCount() - meta->propertyOffset(), control->properties);
     QCOMPARE(meta->enumeratorCount(), meta->enumeratorOffset());
-    const Widget orphan(make(nullptr));
+    const Widget orphan(control->make(nullptr));
     QVERIFY(!orphan->parentWidget());
 }
 
 void TestClasses::madeBeforeTheRemIsChosen()
 {
-    QFETCH(Maker, make);
+    QFETCH(const Support::ControlClass *, control);
     LenConverter::m_rem = 0;
     allowWarning(QStringLiteral("^QFont::setPixelSize: Pixel size <= 0"));
     QWidget parent;
     parent.resize(200, 100);
-    make(&parent)->setGeometry(0, 0, 100, 50);
+    control->make(&parent)->setGeometry(0, 0, 100, 50);
     parent.show();
     Support::picture(&parent);
 }

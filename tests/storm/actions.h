@@ -39,6 +39,9 @@ const std::vector<Action> &access();    // access.cpp
 /// A step of any kind, chosen by weight.
 Deed any(Random &random);
 
+/// A step that opens or ends a sampler.
+Deed sampling(Random &random);
+
 /// A call of one of a class's public functions.
 Deed set(Random &random, const char *className);
 

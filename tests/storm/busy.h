@@ -19,18 +19,28 @@ public:
         Nothing,
     };
 
-    explicit Busy(QObject *object, Survival survival = Buttons) { marks().push_back({object, survival}); }
+    explicit Busy(QObject *object, Survival survival = Buttons, bool isHiding = false)
+    {
+        marks().push_back({object, survival, isHiding});
+    }
     ~Busy() { marks().pop_back(); }
     Q_DISABLE_COPY_MOVE(Busy)
 
     /// Whether a widget must be kept until what goes on is over.
     static bool needs(const QWidget *widget);
 
+    static bool isAnything();
+
+    /// Whether a colour popup is in the middle of its hiding. Whoever shows it again right then keeps the toolkit
+    /// busy for ever, which closes all popups before it shows a window.
+    static bool isPopupHiding();
+
 private:
     struct Mark
     {
         QPointer<QObject> object;
         Survival survival;
+        bool isHiding;
     };
     static std::vector<Mark> &marks();
 };

@@ -244,22 +244,38 @@ const std::vector<Signal> &signalTable()
         SIGNAL_OF(TavikGradientBar, selectedEndColor),
         SIGNAL_OF(TavikGradientBar, colorPopupRequest),
         SIGNAL_OF(TavikColorPopup, colorChanged),
-        SIGNAL_OF(TavikColorPopup, colorPopupHide),
     };
     return table;
+}
+
+/// The popup tells of its hiding: not the time for just any step, see Busy::isPopupHiding().
+const Signal &hiding()
+{
+    static const Signal hiding = SIGNAL_OF(TavikColorPopup, colorPopupHide);
+    return hiding;
+}
+
+Deed deedWithin(const Signal &signal, Random &random)
+{
+    if (&signal == &hiding())
+        return Actions::sampling(random);
+    return random.oneIn(2) ? Actions::set(random, signal.className) : Actions::any(random);
 }
 
 /// Waits for a signal, and does another step in the middle of it, once: half of the time to the same control.
 Deed trap(Random &random)
 {
-    const Signal &signal = random.pick(signalTable());
-    const Deed inner = random.oneIn(2) ? Actions::set(random, signal.className) : Actions::any(random);
+    const Signal &signal = random.oneIn(20) ? hiding() : random.pick(signalTable());
+    const Deed inner = deedWithin(signal, random);
     const QString text = QStringLiteral("%1::%2 does %3")
                              .arg(QLatin1String(signal.className), QLatin1String(signal.name), inner.text);
     return {text, [=](Stage &stage) {
                 const QPointer<QWidget> control = stage.at(Stage::slotOf(signal.className));
                 const auto connection = std::make_shared<QMetaObject::Connection>();
+                const bool canHide = &signal == &hiding();
                 *connection = signal.connect(control, stage.wires(), [=, &stage] {
+                    if (Busy::isPopupHiding() && !canHide)
+                        return;
                     QObject::disconnect(*connection);
                     if (!control)
                         Finding::end(QStringLiteral("A control that is being destroyed sends a signal"));
@@ -269,9 +285,13 @@ Deed trap(Random &random)
             }};
 }
 
+/// Not in the middle of a signal: there the toolkit may then delete what it still needs.
 Deed processEvents(Random &)
 {
-    return {{}, [](Stage &) { QCoreApplication::processEvents(); }};
+    return {{}, [](Stage &) {
+                if (!Busy::isAnything())
+                    QCoreApplication::processEvents();
+            }};
 }
 
 } // namespace

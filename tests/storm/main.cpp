@@ -24,7 +24,10 @@ public:
     {
         if (event->type() == QEvent::ContextMenu && opensMenuInALoop(receiver))
             return true;
-        const Busy busy(receiver);
+        if (!receiver->isWidgetType())
+            return QApplication::notify(receiver, event);
+        const bool isHiding = event->type() == QEvent::Hide || event->type() == QEvent::Close;
+        const Busy busy(receiver, Busy::Buttons, isHiding);
         return QApplication::notify(receiver, event);
     }
 

@@ -80,6 +80,19 @@ Setter numberSetter(const char *name, void (Owner::*member)(double))
             }};
 }
 
+/// A range of a slider that stays small: over the whole range of int the toolkit divides by 0.
+template <class Class>
+Setter sliderRange()
+{
+    return {Class::staticMetaObject.className(), "setRange", [](Random &random) {
+                const auto range = Wild::draw<QSize>(random);
+                return Call{range.text, [=](QWidget *widget) {
+                                static_cast<Class *>(widget)->setRange(range.value.width(),
+                                                                       range.value.height());
+                            }};
+            }};
+}
+
 #define CALL(Class, member) setter<Class>(#member, &Class::member)
 #define CALL_AS(Class, member, ...) setter<Class>(#member, qOverload<__VA_ARGS__>(&Class::member))
 
@@ -204,14 +217,14 @@ const std::vector<Setter> &setterTable()
         CALL(TavikFontFamilyComboBox, hidePopup),
 
         CALL(TavikSlider, updateStyleSheet),
-        CALL(TavikSlider, setRange),
+        sliderRange<TavikSlider>(),
         CALL(TavikSlider, setValue),
         CALL(TavikSlider, setOrientation),
         CALL(TavikSlider, setInvertedAppearance),
 
-        // No range: the toolkit's dial divides by 0 over the whole range of int.
+        sliderRange<TavikDial>(),
         CALL(TavikDial, setValue),
-        CALL(TavikDial, setWrapping),
+        // Not setWrapping: the toolkit's dial then divides by 0 where the range is a single value.
         CALL(TavikDial, setNotchesVisible),
 
         CALL(TavikSeperateLine, clear),
@@ -263,7 +276,7 @@ const std::vector<Setter> &setterTable()
         CALL(TavikColorSilder, gradient),
         CALL(TavikColorSilder, firstColor),
         CALL(TavikColorSilder, lastColor),
-        CALL(TavikColorSilder, setRange),
+        sliderRange<TavikColorSilder>(),
         CALL(TavikColorSilder, setValue),
         CALL(TavikColorSilder, setOrientation),
 

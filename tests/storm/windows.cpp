@@ -120,10 +120,10 @@ Deed treat(Random &random)
             }};
 }
 
-/// The application's own window comes and goes.
+/// The application's own window goes, and mostly comes back soon: hidden, it shows little.
 Deed window(Random &random)
 {
-    const int state = random.below(6);
+    const int state = random.below(12);
     const int width = random.between(0, 900);
     const int height = random.between(0, 700);
     return {QStringLiteral("%1 %2,%3").arg(state).arg(width).arg(height), [=](Stage &stage) {
@@ -156,11 +156,16 @@ Deed closeActivePopup(Random &)
 
 } // namespace
 
+Deed Actions::sampling(Random &random)
+{
+    return random.oneIn(2) ? sample(random) : endSampler(random);
+}
+
 const std::vector<Action> &Actions::windows()
 {
     static const std::vector<Action> actions = {
         {"openPopup", 15, openPopup}, {"sample", 6, sample}, {"endSampler", 12, endSampler},
-        {"treat", 30, treat},         {"window", 4, window}, {"closeActivePopup", 10, closeActivePopup},
+        {"treat", 30, treat},         {"window", 8, window}, {"closeActivePopup", 10, closeActivePopup},
     };
     return actions;
 }
