@@ -60,7 +60,8 @@ void TestStorm::findsPlantedFaults_data()
     QTest::addColumn<QByteArray>("program");
     QTest::addColumn<QString>("finding");
     QTest::newRow("a reference that a receiver invalidates")
-        << QByteArray(TAVIK_STORM_WELL) << "AddressSanitizer: heap-use-after-free|runtime error: load of value";
+        << QByteArray(TAVIK_STORM_WELL)
+        << "AddressSanitizer: heap-use-after-free|runtime error: load of value";
     QTest::newRow("a window that nobody deletes")
         << QByteArray(TAVIK_STORM_POPUP) << "Finding: A sampler is left over";
 }

@@ -24,7 +24,7 @@ const char *const expectedMessages[] = {
     "^QFont::setPixelSize: Pixel size <= 0",
     "^\"?QColor::",
     "^QWidget::set(Minimum|Maximum)Size: ",
-    "^QWidgetLineControl::setSelection: Invalid start position",     // a third click, where the text is gone
+    "^QWidgetLineControl::setSelection: Invalid start position", // a third click, where the text is gone
     "^Setting a QCompleter on non-editable QComboBox",
     "^QCssParser::parseHexColor: Unknown color name",
     "^QFSFileEngine::open: No file name specified",
@@ -83,7 +83,8 @@ void checkPopup(const TavikColorPopup *popup)
     require(number(Y) == 255 - number(B), "The fields Y and B do not belong together");
     const QString hex = fields.at(Hex)->text();
     if (color.isValid() && hex.size() == 6)
-        require(QColor(QLatin1Char('#') + hex).rgb() == QColor(color.rgb()).rgb(), "The field Hex shows another colour");
+        require(QColor(QLatin1Char('#') + hex).rgb() == QColor(color.rgb()).rgb(),
+                "The field Hex shows another colour");
 }
 
 } // namespace

@@ -18,7 +18,7 @@ constexpr Qt::Key keys[] = {
     Qt::Key_0,    Qt::Key_3,       Qt::Key_9,         Qt::Key_Minus,  Qt::Key_Comma,  Qt::Key_Period,
 };
 
-constexpr Qt::KeyboardModifiers modifiers[] = {Qt::NoModifier, Qt::NoModifier,  Qt::NoModifier,
+constexpr Qt::KeyboardModifiers modifiers[] = {Qt::NoModifier, Qt::NoModifier,    Qt::NoModifier,
                                                Qt::NoModifier, Qt::ShiftModifier, Qt::ControlModifier};
 
 /// What the toolkit would give the key to, or the control itself.
@@ -133,8 +133,11 @@ Deed focus(Random &random)
 const std::vector<Action> &Actions::keyboard()
 {
     static const std::vector<Action> actions = {
-        {"key", 25, key}, {"platformKey", 10, platformKey}, {"commitText", 6, commitText},
-        {"paste", 4, paste}, {"focus", 10, focus},
+        {"key", 25, key},
+        {"platformKey", 10, platformKey},
+        {"commitText", 6, commitText},
+        {"paste", 4, paste},
+        {"focus", 10, focus},
     };
     return actions;
 }

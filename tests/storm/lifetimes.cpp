@@ -197,7 +197,8 @@ struct Signal
 };
 
 template <class Class, class Owner, class... Arguments>
-Signal signal(const char *name, void (Owner::*member)(Arguments...), Busy::Survival survival = Busy::Buttons)
+Signal signal(const char *name, void (Owner::*member)(Arguments...),
+              Busy::Survival survival = Busy::Buttons)
 {
     return {Class::staticMetaObject.className(), name, survival,
             [member](QWidget *control, QObject *context, const std::function<void()> &slot) {

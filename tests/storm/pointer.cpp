@@ -30,8 +30,8 @@ struct Place
     int y;
 };
 
-constexpr Qt::MouseButton buttons[] = {Qt::LeftButton, Qt::LeftButton, Qt::LeftButton, Qt::LeftButton,
-                                       Qt::RightButton, Qt::MiddleButton};
+constexpr Qt::MouseButton buttons[] = {Qt::LeftButton, Qt::LeftButton,  Qt::LeftButton,
+                                       Qt::LeftButton, Qt::RightButton, Qt::MiddleButton};
 
 /// How a mouse event comes to a control: straight, or by way of the platform, where an open popup takes it.
 enum class Way { Straight, Platform };
@@ -64,7 +64,10 @@ struct Mouse
     }
 
 private:
-    Qt::MouseButton own(QEvent::Type type) const { return type == QEvent::MouseMove ? Qt::NoButton : button; }
+    Qt::MouseButton own(QEvent::Type type) const
+    {
+        return type == QEvent::MouseMove ? Qt::NoButton : button;
+    }
     Qt::MouseButtons held(QEvent::Type type) const
     {
         return type == QEvent::MouseButtonRelease ? Qt::NoButton : button;

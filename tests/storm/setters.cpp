@@ -301,8 +301,9 @@ const std::vector<Setter> &setterTable()
 Deed deedOf(const Setter &setter, Random &random)
 {
     const Call call = setter.draw(random);
-    const QString text = QStringLiteral("%1::%2(%3)").arg(QLatin1String(setter.className),
-                                                          QLatin1String(setter.name), call.arguments);
+    const QString text =
+        QStringLiteral("%1::%2(%3)")
+            .arg(QLatin1String(setter.className), QLatin1String(setter.name), call.arguments);
     return {text, [=](Stage &stage) {
                 QWidget *control = stage.at(Stage::slotOf(setter.className));
                 const Busy busy(control);

@@ -108,7 +108,8 @@ void Stage::wire(QWidget *control)
         QObject::connect(bar, &TavikGradientBar::colorPopupRequest, wires(),
                          [this](const QPoint &pos, const QColor &color) { showPopup(pos, color); });
     } else if (auto *well = qobject_cast<TavikColorWell *>(control)) {
-        QObject::connect(well, &TavikColorWell::addColorRequested, well, [well] { well->addColor(Qt::red); });
+        QObject::connect(well, &TavikColorWell::addColorRequested, well,
+                         [well] { well->addColor(Qt::red); });
         // A palette that begins with what was chosen last.
         QObject::connect(well, &TavikColorWell::colorSelected, well, &TavikColorWell::addColor);
         QObject::connect(well, &TavikColorWell::colorSelected, wires(), [this](const QColor &color) {

@@ -7,14 +7,26 @@ namespace {
 using Double = std::numeric_limits<double>;
 using Int = std::numeric_limits<int>;
 
-constexpr double lengths[] = {Double::quiet_NaN(), -Double::infinity(), -1e300, -1.0, -0.0, 0.0, 1e-300, 0.3, 0.5,
-                              1.0, 1.167, 2.5, 9.0, 30.0};
+constexpr double lengths[] = {Double::quiet_NaN(),
+                              -Double::infinity(),
+                              -1e300,
+                              -1.0,
+                              -0.0,
+                              0.0,
+                              1e-300,
+                              0.3,
+                              0.5,
+                              1.0,
+                              1.167,
+                              2.5,
+                              9.0,
+                              30.0};
 
 constexpr double largeNumbers[] = {1e6, 1e9, 1e300, Double::infinity()};
 
-constexpr int integers[] = {Int::min(), Int::min() + 1, -100000, -255, -1,  0,      1,         2,  7,
-                            50,         99,             100,     101,  255, 256,    300,       360,
-                            1000,       100000,         Int::max() - 1,     Int::max()};
+constexpr int integers[] = {
+    Int::min(), Int::min() + 1, -100000,   -255, -1, 0, 1, 2, 7, 50, 99, 100, 101, 255, 256, 300, 360, 1000,
+    100000,     Int::max() - 1, Int::max()};
 
 constexpr int pixelCounts[] = {-1000, -1, 0, 1, 2, 3, 6, 7, 16, 40, 190, 400};
 

@@ -27,7 +27,8 @@ Deed openPopup(Random &random)
     const QPoint pos = random.oneIn(8) ? Wild::draw<QPoint>(random).value
                                        : QPoint(random.between(-200, 1000), random.between(-200, 800));
     const auto color = Wild::draw<QColor>(random);
-    const QString text = popupText(index, QStringLiteral("at %1,%2 ").arg(pos.x()).arg(pos.y()) + color.text);
+    const QString text =
+        popupText(index, QStringLiteral("at %1,%2 ").arg(pos.x()).arg(pos.y()) + color.text);
     return {text, [=](Stage &stage) { popupAt(stage, index)->showColorPopup(pos, color.value); }};
 }
 
@@ -100,10 +101,8 @@ Deed treat(Random &random)
         {"resize", [](QWidget *widget, int x, int y) { widget->resize(x, y); }},
         {"move", [](QWidget *widget, int x, int y) { widget->move(x, y); }},
         {"grab", [](QWidget *widget, int, int) { widget->grab(QRect(0, 0, 300, 300)); }},
-        {"mirror",
-         [](QWidget *widget, int x, int) {
-             widget->setLayoutDirection(x > 300 ? Qt::RightToLeft : Qt::LeftToRight);
-         }},
+        {"mirror", [](QWidget *widget, int x,
+                      int) { widget->setLayoutDirection(x > 300 ? Qt::RightToLeft : Qt::LeftToRight); }},
         {"restyle", [](QWidget *widget, int, int) { widget->setStyleSheet(widget->styleSheet()); }},
     };
     const int slot = random.below(Stage::slotCount());
