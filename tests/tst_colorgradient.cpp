@@ -13,10 +13,8 @@ class TestColorGradient : public TestCase
 
 private Q_SLOTS:
     void sizes();
-    void colours_data();
     void colours();
     void coloursSet();
-    void presses_data();
     void presses();
     void drags_data();
     void drags();
@@ -61,32 +59,22 @@ void TestColorGradient::sizes()
     QCOMPARE(TavikGradientBar().size(), QSize(167, 20));
 }
 
-void TestColorGradient::colours_data()
-{
-    QTest::addColumn<QColor>("start");
-    QTest::addColumn<QColor>("end");
-    QTest::addColumn<int>("value");
-    QTest::addColumn<QColor>("colour");
-    const QColor from(10, 200, 0, 255);
-    const QColor to(20, 100, 255, 0);
-    QTest::newRow("start") << from << to << 0 << from;
-    QTest::newRow("end") << from << to << 100 << to;
-    QTest::newRow("cut") << from << to << 33 << QColor(13, 167, 84, 170);
-    QTest::newRow("half of white") << QColor(Qt::white) << QColor(Qt::black) << 50 << QColor(127, 127, 127);
-    QTest::newRow("still in reach") << QColor(100, 100, 100) << QColor(110, 90, 100) << 300
-                                    << QColor(130, 70, 100);
-    QTest::newRow("below") << QColor(100, 100, 100) << QColor(110, 90, 100) << -100 << QColor(90, 110, 100);
-}
-
 void TestColorGradient::colours()
 {
-    QFETCH(QColor, start);
-    QFETCH(QColor, end);
-    QFETCH(int, value);
-    TavikGradientBar bar(200, 24);
-    bar.setStartColor(start);
-    bar.setEndColor(end);
-    QTEST(bar.colorAt(value), "colour");
+    const auto colour = [](const QColor &start, const QColor &end, int value) {
+        TavikGradientBar bar(200, 24);
+        bar.setStartColor(start);
+        bar.setEndColor(end);
+        return bar.colorAt(value);
+    };
+    const QColor from(10, 200, 0, 255);
+    const QColor to(20, 100, 255, 0);
+    QCOMPARE(colour(from, to, 0), from);
+    QCOMPARE(colour(from, to, 33), QColor(13, 167, 84, 170)); // cut
+    QCOMPARE(colour(from, to, 100), to);
+    const QColor grey(100, 100, 100);
+    QCOMPARE(colour(grey, QColor(110, 90, 100), 300), QColor(130, 70, 100)); // still in reach
+    QCOMPARE(colour(grey, QColor(110, 90, 100), -100), QColor(90, 110, 100));
 }
 
 void TestColorGradient::coloursSet()
@@ -112,49 +100,33 @@ void TestColorGradient::coloursSet()
     QCOMPARE(emissions.startColor.size() + emissions.endColor.size(), 3);
 }
 
-void TestColorGradient::presses_data()
-{
-    QTest::addColumn<QPoint>("point");
-    QTest::addColumn<int>("side"); // that a popup was asked for, or none
-    const int start = TavikGradientBar::StartSide;
-    const int end = TavikGradientBar::EndSide;
-    const int none = -1;
-    QTest::newRow("start square, first pixel") << QPoint(1, 1) << start;
-    QTest::newRow("start square, last pixel") << QPoint(22, 22) << start;
-    QTest::newRow("behind the start square") << QPoint(23, 10) << none;
-    QTest::newRow("end square, first pixel") << QPoint(170, 0) << end;
-    QTest::newRow("end square, last pixel") << QPoint(191, 21) << end;
-    QTest::newRow("below the end square") << QPoint(180, 22) << none;
-    QTest::newRow("handle") << QPoint(98, 10) << none;
-}
-
 void TestColorGradient::presses()
 {
-    QFETCH(QPoint, point);
-    QFETCH(int, side);
     QWidget window;
     TavikGradientBar bar(200, 24, &window);
     bar.move(40, 50);
-    const bool isStart = side == TavikGradientBar::StartSide;
-    const auto before = isStart ? TavikGradientBar::EndSide : TavikGradientBar::StartSide;
-    bar.setSelectedSide(before);
     Support::picture(&bar);
     Emissions emissions(&bar);
-    int seen = -1;
-    connect(&bar, &TavikGradientBar::colorPopupRequest, this,
-            [&] { seen = seen < 0 ? int(bar.selectedSide()) : seen; });
-    for (const Qt::MouseButton button : {Qt::LeftButton, Qt::MiddleButton}) {
+    auto seen = TavikGradientBar::StartSide;
+    connect(&bar, &TavikGradientBar::colorPopupRequest, this, [&] { seen = bar.selectedSide(); });
+    const auto requests = [&](const QPoint &point, Qt::MouseButton button = Qt::LeftButton) {
+        emissions.request.clear();
         Support::press(&bar, point, button);
         Support::release(&bar, point, button);
-    }
-    QCOMPARE(emissions.request.size(), side < 0 ? 0 : 2);
-    QCOMPARE(seen, side);
-    QCOMPARE(int(bar.selectedSide()), side < 0 ? int(before) : side);
-    if (side < 0)
-        return;
-    QCOMPARE(emissions.request.last().first().toPoint(),
-             bar.mapToGlobal(isStart ? QPoint(11, 22) : QPoint(180, 21)));
-    QCOMPARE(argument(emissions.request), isStart ? bar.startColor() : bar.endColor());
+        return emissions.request.size();
+    };
+    QCOMPARE(requests({170, 0}), 1); // the end square's first and last pixels
+    QCOMPARE(seen, TavikGradientBar::EndSide);
+    QCOMPARE(requests({191, 21}, Qt::MiddleButton), 1);
+    QCOMPARE(emissions.request.last().first().toPoint(), bar.mapToGlobal(QPoint(180, 21)));
+    QCOMPARE(argument(emissions.request), QColor(Qt::black));
+    QCOMPARE(requests({1, 1}), 1); // the start square's
+    QCOMPARE(seen, TavikGradientBar::StartSide);
+    QCOMPARE(requests({22, 22}, Qt::MiddleButton), 1);
+    QCOMPARE(emissions.request.last().first().toPoint(), bar.mapToGlobal(QPoint(11, 22)));
+    QCOMPARE(argument(emissions.request), QColor(Qt::white));
+    for (const QPoint &beside : {QPoint(23, 10), QPoint(180, 22), QPoint(98, 10)})
+        QCOMPARE(requests(beside), 0);
 }
 
 void TestColorGradient::drags_data()

@@ -17,7 +17,6 @@ private Q_SLOTS:
     void looksAsThePlainWay();
     void imageFollowsHue();
     void refusedHues();
-    void picks_data();
     void picks();
     void drag();
     void settersAreSilent();
@@ -85,39 +84,29 @@ void TestColorPicker::refusedHues()
     }
 }
 
-void TestColorPicker::picks_data()
-{
-    QTest::addColumn<QPoint>("point");
-    QTest::addColumn<bool>("isAccepted");
-    QTest::addColumn<double>("saturation");
-    QTest::addColumn<double>("value");
-    QTest::newRow("upper left") << QPoint(0, 0) << true << 0.0 << 1.0;
-    QTest::newRow("middle") << QPoint(50, 20) << true << 0.5 << 0.6;
-    QTest::newRow("last pixel") << QPoint(99, 49) << true << 0.99 << 0.02;
-    QTest::newRow("one past the last") << QPoint(100, 50) << true << 1.0 << 0.0;
-    QTest::newRow("right of it") << QPoint(101, 10) << false << 0.0 << 0.0;
-    QTest::newRow("below it") << QPoint(10, 51) << false << 0.0 << 0.0;
-    QTest::newRow("left of it") << QPoint(-1, 10) << false << 0.0 << 0.0;
-}
-
 void TestColorPicker::picks()
 {
-    QFETCH(QPoint, point);
-    QFETCH(bool, isAccepted);
-    QFETCH(double, saturation);
-    QFETCH(double, value);
-    TavikColorPicker picker(102, 52);
-    const QColor before(1, 2, 3, 4);
-    picker.setCurrentColor(before);
-    picker.setCurrentHue(0.25);
-    QSignalSpy changed(&picker, &TavikColorPicker::colorChanged);
-    picker.updateSelectedColor(point.x(), point.y());
-    picker.updateSelectedColor(point.x(), point.y());
-    QCOMPARE(changed.size(), isAccepted ? 2 : 0);
-    const QColor picked = QColor::fromHsvF(0.25, saturation, value, 1.0);
-    QCOMPARE(picker.currentColor(), isAccepted ? picked : before);
-    if (isAccepted)
-        QCOMPARE(changed.last().first().value<QColor>(), picked);
+    const struct
+    {
+        QPoint point;
+        double saturation; // none if the point is refused
+        double value;
+    } rows[] = {{{0, 0}, 0.0, 1.0},  {{50, 20}, 0.5, 0.6}, {{100, 50}, 1.0, 0.0}, // one past the last pixel
+                {{101, 10}, -1, -1}, {{10, 51}, -1, -1},   {{-1, 10}, -1, -1}};
+    for (const auto &[point, saturation, value] : rows) {
+        const bool isAccepted = saturation >= 0;
+        TavikColorPicker picker(102, 52);
+        const QColor before(1, 2, 3, 4);
+        picker.setCurrentColor(before);
+        picker.setCurrentHue(0.25);
+        const QSignalSpy changed(&picker, &TavikColorPicker::colorChanged);
+        picker.updateSelectedColor(point.x(), point.y());
+        picker.updateSelectedColor(point.x(), point.y()); // told again
+        QCOMPARE(changed.size(), isAccepted ? 2 : 0);
+        QCOMPARE(picker.currentColor(), isAccepted ? QColor::fromHsvF(0.25, saturation, value) : before);
+        if (isAccepted)
+            QCOMPARE(changed.last().first().value<QColor>(), picker.currentColor());
+    }
 }
 
 void TestColorPicker::drag()

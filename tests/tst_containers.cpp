@@ -76,11 +76,8 @@ void TestContainers::container()
     QCOMPARE(boxOf(TavikContainer(Direction(-7)))->direction(), QBoxLayout::LeftToRight);
     TavikContainer box(Horizontal);
     const QBoxLayout *layout = boxOf(box);
-    const auto *item = static_cast<const QLayoutItem *>(layout);
     QCOMPARE(layout->direction(), QBoxLayout::LeftToRight);
-    QCOMPARE(item->alignment(), Qt::AlignCenter);
-    box.setAlignment(Qt::AlignLeft);
-    QCOMPARE(item->alignment(), Qt::AlignLeft);
+    QCOMPARE(static_cast<const QLayoutItem *>(layout)->alignment(), Qt::AlignCenter);
     box.setSpacing(1.5);
     QCOMPARE(layout->spacing(), 27);
     box.setContentMargin(12);
@@ -88,22 +85,13 @@ void TestContainers::container()
     box.removeMargins();
     QCOMPARE(layout->contentsMargins(), QMargins(0, 0, 0, 0));
 
-    auto *child = new QWidget;
-    box.addWidget(child);
+    box.addWidget(new QWidget);
     box.addSpacing(12);
     QCOMPARE(layout->itemAt(1)->sizeHint().width(), 12);
     box.addStretch();
     QCOMPARE(layout->stretch(2), 1);
-    auto *nested = new QVBoxLayout;
-    box.addLayout(nested);
-    box.setAlignment(nested, Qt::AlignTop);
-    QCOMPARE(static_cast<QLayoutItem *>(nested)->alignment(), Qt::AlignTop);
-    box.addSpacerItem(new QSpacerItem(5, 6));
     box.addSpacerItem(nullptr);
-    QCOMPARE(layout->count(), 5);
-    box.removeWidget(child);
-    QCOMPARE(layout->count(), 4);
-    QCOMPARE(child->parentWidget(), &box);
+    QCOMPARE(layout->count(), 3);
     box.setRemSize(QSizeF(10, 5));
     QCOMPARE(box.size(), QSize(180, 90));
 }
@@ -148,9 +136,7 @@ void TestContainers::expandableParts()
     QCOMPARE(inner->contentsMargins(), QMargins(1, 1, 1, 1));
     QCOMPARE(static_cast<const QLayoutItem *>(inner)->alignment(), Qt::AlignHCenter | Qt::AlignTop);
     panel.addWidget(new QWidget);
-    panel.addLayout(new QHBoxLayout);
-    panel.addSpacerItem(new QSpacerItem(1, 1));
-    QCOMPARE(inner->count(), 3);
+    QCOMPARE(inner->count(), 1);
     panel.setSpacing(0.5);
     QCOMPARE(inner->spacing(), 9);
     panel.setRemWidth(20);

@@ -22,9 +22,7 @@ class TestTavikColorPopup : public TestCase
 
 private Q_SLOTS:
     void contentsFit();
-    void placement_data();
     void placement();
-    void showsAColour_data();
     void showsAColour();
     void typing_data();
     void typing();
@@ -140,62 +138,55 @@ void TestTavikColorPopup::contentsFit()
     }
 }
 
-void TestTavikColorPopup::placement_data()
-{
-    QTest::addColumn<int>("x");
-    QTest::addColumn<int>("room"); // between the anchor and the lower edge of the screen
-    QTest::addColumn<bool>("isBelow");
-    QTest::newRow("room") << 300 << 500 << true;
-    QTest::newRow("just enough") << 300 << 409 << true; // more than 397 + 5 + 6
-    QTest::newRow("just not") << 300 << 408 << false;
-    QTest::newRow("left of the screen") << -50 << 500 << true;
-    QTest::newRow("far right") << 5000 << 10 << false;
-}
-
 void TestTavikColorPopup::placement()
 {
-    QFETCH(int, x);
-    QFETCH(int, room);
-    QFETCH(bool, isBelow);
-    const int y = QGuiApplication::primaryScreen()->size().height() - room;
+    const struct
+    {
+        int x;
+        int room; // between the anchor and the lower edge of the screen
+        bool isBelow;
+    } rows[] = {{300, 409, true}, // just more than 397 + 5 + 6
+                {300, 408, false},
+                {-50, 500, true}, // left of the screen
+                {5000, 10, false}};
     TavikColorPopup popup;
-    popup.showColorPopup({x, y}, Qt::red);
-    QCOMPARE(popup.pos(), QPoint(x - 175, isBelow ? y : y - 398 - 14 + 5));
-    QCOMPARE(popup.layout()->contentsMargins(), isBelow ? QMargins(5, 19, 5, 5) : QMargins(5, 5, 5, 19));
+    for (const auto &[x, room, isBelow] : rows) {
+        const int y = QGuiApplication::primaryScreen()->size().height() - room;
+        popup.showColorPopup({x, y}, Qt::red);
+        QCOMPARE(popup.pos(), QPoint(x - 175, isBelow ? y : y - 398 - 14 + 5));
+        QCOMPARE(popup.layout()->contentsMargins(),
+                 isBelow ? QMargins(5, 19, 5, 5) : QMargins(5, 5, 5, 19));
 
-    // The outline: white inside, nothing beside the arrow and below.
-    const QImage picture = Support::picture(&popup);
-    QCOMPARE(picture.pixelColor(175, isBelow ? 16 : 386), QColor(Qt::white));
-    QVERIFY(picture.pixelColor(100, isBelow ? 10 : 392) != QColor(Qt::white));
-    QCOMPARE(picture.pixelColor(8, isBelow ? 314 : 300), QColor("#d3d3d3"));
-    QCOMPARE(picture.pixelColor(8, isBelow ? 388 : 379), QColor(Qt::white));
-    QVERIFY(picture.pixelColor(8, 395) != QColor(Qt::white));
-}
-
-void TestTavikColorPopup::showsAColour_data()
-{
-    QTest::addColumn<QColor>("color");
-    QTest::addColumn<QString>("fields");
-    QTest::addColumn<int>("hue");
-    const auto row = [](const char *name, const QColor &color, const char *fields, int hue) {
-        QTest::newRow(name) << color << QString::fromLatin1(fields) << hue;
-    };
-    row("chromatic", QColor(10, 200, 30, 128), "0ac81e 10 200 30 128 245 55 225", 126);
-    row("grey", Qt::white, "ffffff 255 255 255 255 0 0 0", 0);
-    row("transparent black", QColor(0, 0, 0, 0), "000000 0 0 0 0 255 255 255", 0);
+        // The outline: white inside, nothing beside the arrow and below.
+        const QImage picture = Support::picture(&popup);
+        QCOMPARE(picture.pixelColor(175, isBelow ? 16 : 386), QColor(Qt::white));
+        QVERIFY(picture.pixelColor(100, isBelow ? 10 : 392) != QColor(Qt::white));
+        QCOMPARE(picture.pixelColor(8, isBelow ? 314 : 300), QColor("#d3d3d3"));
+        QCOMPARE(picture.pixelColor(8, isBelow ? 388 : 379), QColor(Qt::white));
+        QVERIFY(picture.pixelColor(8, 395) != QColor(Qt::white));
+    }
 }
 
 void TestTavikColorPopup::showsAColour()
 {
-    QFETCH(QColor, color);
+    const struct
+    {
+        QColor color;
+        const char *fields;
+        int hue;
+    } rows[] = {{QColor(10, 200, 30, 128), "0ac81e 10 200 30 128 245 55 225", 126},
+                {Qt::white, "ffffff 255 255 255 255 0 0 0", 0},
+                {QColor(0, 0, 0, 0), "000000 0 0 0 0 255 255 255", 0}};
     TavikColorPopup popup;
     const QSignalSpy changed(&popup, &TavikColorPopup::colorChanged);
-    popup.showColorPopup(QPoint(200, 10), color);
-    QTEST(texts(popup), "fields");
-    QTEST(slider(popup, TavikColorSilder::Hue)->value(), "hue");
-    QCOMPARE(slider(popup, TavikColorSilder::Alpha)->value(), color.alpha());
-    QVERIFY(picker(popup)->currentHue() >= 0); // a grey opens with colours in the square
-    QCOMPARE(popup.currentColor().rgba(), color.rgba());
+    for (const auto &[color, fields, hue] : rows) {
+        popup.showColorPopup(QPoint(200, 10), color);
+        QCOMPARE(texts(popup), QString::fromLatin1(fields));
+        QCOMPARE(slider(popup, TavikColorSilder::Hue)->value(), hue);
+        QCOMPARE(slider(popup, TavikColorSilder::Alpha)->value(), color.alpha());
+        QVERIFY(picker(popup)->currentHue() >= 0); // a grey opens with colours in the square
+        QCOMPARE(popup.currentColor().rgba(), color.rgba());
+    }
     popup.setCurrentColor(Qt::green);
     QCOMPARE(changed.count(), 0);
 }
