@@ -1,10 +1,8 @@
 #include "classes.h"
 #include "support.h"
 
-#include <QLayout>
 #include <QScrollBar>
 
-#include <functional>
 #include <memory>
 
 /// What holds for every control: how it can be made, what its meta-object has, and what its style sheets
@@ -14,143 +12,129 @@ class TestClasses : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void madeFromAParent_data();
     void madeFromAParent();
-    void madeBeforeTheRemIsChosen_data() { madeFromAParent_data(); }
     void madeBeforeTheRemIsChosen();
-    void sheets_data();
     void sheets();
+    void sheetsOfChangedControls();
 };
 
 namespace {
 
-using Widget = std::unique_ptr<QWidget>;
-using SheetMaker = std::function<QString()>;
-
-template <class Class, class... Arguments>
-SheetMaker sheetOf(Arguments... arguments)
+void verifySheet(const char *file, const QWidget &control)
 {
-    return [=] { return Class(arguments...).styleSheet(); };
+    QVERIFY2(control.styleSheet() == Support::expectedSheet(QString::fromLatin1(file)), file);
 }
 
-/// The sheet after all properties have changed.
-template <class Control>
-QString changedSheet()
+/// Changes what a box stores in rem; it is converted when the sheet is built.
+template <class Box>
+void verifyChangedSheet(const char *file, Box &&box)
 {
-    Control control;
-    if constexpr (std::is_same_v<Control, TavikCheckBox>)
-        control.setFontColor(QStringLiteral("#123456"));
-    control.setFontRemSz(2.0);
-    control.setIndicatorSz(1.5);
-    LenConverter::m_rem = 10; // sizes are stored in rem, and converted when the sheet is built
-    control.updateStyleSheet();
-    return control.styleSheet();
-}
-
-/// The title row, the contents and the inner box of a panel.
-QString expandableSheet(int box)
-{
-    const TavikExpandable panel(QStringLiteral("title"), 5.0, nullptr);
-    return panel.findChildren<TavikContainer *>().at(box)->styleSheet();
-}
-
-QString comboBoxSheet(bool ofView, int rem, double fontRem)
-{
-    LenConverter::m_rem = rem;
-    TavikComboBox box;
-    if (fontRem > 0)
-        box.setFontRemSz(fontRem);
-    return ofView ? box.view()->styleSheet() : box.styleSheet();
+    LenConverter::m_rem = 12;
+    const QString before = box.styleSheet();
+    box.setFontRemSz(2.0);
+    box.setIndicatorSz(1.5);
+    LenConverter::m_rem = 10;
+    QCOMPARE(box.styleSheet(), before);
+    box.updateStyleSheet();
+    verifySheet(file, box);
 }
 
 } // namespace
 
-Q_DECLARE_METATYPE(const Support::ControlClass *)
-Q_DECLARE_METATYPE(SheetMaker)
-
-void TestClasses::madeFromAParent_data()
-{
-    QTest::addColumn<const Support::ControlClass *>("control");
-    for (const Support::ControlClass &control : Support::controlClasses())
-        QTest::newRow(control.name) << &control;
-}
-
 void TestClasses::madeFromAParent()
 {
-    QFETCH(const Support::ControlClass *, control);
-    QWidget parent;
-    const QWidget *made = control->make(&parent);
-    QCOMPARE(made->parentWidget(), &parent);
-
-    const QMetaObject *meta = made->metaObject();
-    QCOMPARE(meta->className(), control->name);
-    QCOMPARE(meta->superClass(), control->base);
-    QCOMPARE(meta->methodCount() - meta->methodOffset(), control->methods);
-    QCOMPARE(meta->propertyCount() - meta->propertyOffset(), control->properties);
-    QCOMPARE(meta->enumeratorCount(), meta->enumeratorOffset());
-    const Widget orphan(control->make(nullptr));
-    QVERIFY(!orphan->parentWidget());
+    for (const Support::ControlClass &each : Support::controlClasses()) {
+        QWidget parent;
+        const QWidget *control = each.make(&parent);
+        QCOMPARE(control->parentWidget(), &parent);
+        const QMetaObject *meta = control->metaObject();
+        QCOMPARE(meta->className(), each.name);
+        QCOMPARE(meta->superClass(), each.base);
+        QCOMPARE(meta->methodCount() - meta->methodOffset(), each.methods);
+        QCOMPARE(meta->propertyCount() - meta->propertyOffset(), each.properties);
+        const std::unique_ptr<QWidget> orphan(each.make(nullptr));
+        QVERIFY(!orphan->parentWidget());
+    }
 }
 
 void TestClasses::madeBeforeTheRemIsChosen()
 {
-    QFETCH(const Support::ControlClass *, control);
     LenConverter::m_rem = 0;
     allowWarning(QStringLiteral("^QFont::setPixelSize: Pixel size <= 0"));
-    QWidget parent;
-    parent.resize(200, 100);
-    control->make(&parent)->setGeometry(0, 0, 100, 50);
-    parent.show();
-    Support::picture(&parent);
-}
-
-void TestClasses::sheets_data()
-{
-    QTest::addColumn<SheetMaker>("sheet");
-    const auto add = [](const char *file, const SheetMaker &sheet) { QTest::newRow(file) << sheet; };
-    add("checkbox-12", sheetOf<TavikCheckBox>());
-    add("checkbox-changed-10", changedSheet<TavikCheckBox>);
-    add("radiobutton-12", sheetOf<TavikRadioButton>());
-    add("radiobutton-changed-10", changedSheet<TavikRadioButton>);
-    for (int type = TavikLineEdit::Text; type <= TavikLineEdit::HexDigits; ++type)
-        add("lineedit-12", sheetOf<TavikLineEdit>(QString(), TavikLineEdit::Type(type)));
-    add("spinbox-12", sheetOf<TavikSpinbox>(0, 9));
-    add("spinbox-hidden-12", sheetOf<TavikSpinbox>(0, 9, 1, nullptr, true));
-    add("spinbox-hidden-24", sheetOf<TavikSpinbox>(0, 9, 1, nullptr, true, 2.0));
-    add("doublespinbox-12", sheetOf<TavikDoubleSpinbox>(0.0, 9.0));
-    add("combobox-12", [] { return comboBoxSheet(false, 12, 0); });
-    add("combobox-view-12", [] { return comboBoxSheet(true, 12, 0); });
-    add("combobox-18", [] { return comboBoxSheet(false, 18, 1.5); });
-    add("combobox-view-18", [] { return comboBoxSheet(true, 18, 1.5); });
-    add("combobox-12", sheetOf<TavikComboBox>(TavikComboBox::Editable));
-    add("combobox-12", sheetOf<TavikFontFamilyComboBox>());
-    add("slider", sheetOf<TavikSlider>(100, 20));
-    add("slider", sheetOf<TavikSlider>());
-    const QString grey = QStringLiteral("#d3d3d3");
-    add("container", sheetOf<TavikContainer>(Vertical, QStringLiteral("#ececec"), QStringLiteral("1"), grey,
-                                             QStringLiteral("2"), QStringLiteral("0")));
-    add("container-transparent", sheetOf<TavikContainer>(Horizontal));
-    add("container", [] { return expandableSheet(0); });
-    add("expandable-content", [] { return expandableSheet(1); });
-    add("expandable-inner", [] { return expandableSheet(2); });
-    add("scrollarea", sheetOf<TavikScrollArea>(QStringLiteral("2"), QStringLiteral("#010203"),
-                                               QStringLiteral("#fafafa")));
-    add("scrollarea-plain", sheetOf<TavikScrollArea>());
-    add("imagelist", sheetOf<TavikImageList>());
-    add("scrollbar-without-right",
-        [] { return TavikComboBox().view()->verticalScrollBar()->styleSheet(); });
-    add("scrollbar-without-right", [] { return TavikScrollArea().verticalScrollBar()->styleSheet(); });
-    add("scrollbar-all-sides", [] { return TavikImageList().verticalScrollBar()->styleSheet(); });
-    add("colorbutton", sheetOf<TavikColorButton>(QColor(1, 2, 3, 4)));
-    add("", sheetOf<TavikDial>());
-    add("", sheetOf<TavikSeperateLine>(100));
+    for (const Support::ControlClass &each : Support::controlClasses()) {
+        QWidget parent;
+        parent.resize(200, 100);
+        each.make(&parent)->setGeometry(0, 0, 100, 50);
+        parent.show();
+        Support::picture(&parent);
+    }
 }
 
 void TestClasses::sheets()
 {
-    QFETCH(SheetMaker, sheet);
-    const QString file = QString::fromLatin1(QTest::currentDataTag());
-    QCOMPARE(sheet(), file.isEmpty() ? QString() : Support::expectedSheet(file));
+    verifySheet("checkbox-12", TavikCheckBox());
+    verifySheet("radiobutton-12", TavikRadioButton());
+    for (int type = TavikLineEdit::Text; type <= TavikLineEdit::HexDigits; ++type)
+        verifySheet("lineedit-12", TavikLineEdit(QString(), TavikLineEdit::Type(type)));
+    verifySheet("spinbox-12", TavikSpinbox());
+    verifySheet("spinbox-hidden-12", TavikSpinbox(0, 9, 1, nullptr, true));
+    verifySheet("doublespinbox-12", TavikDoubleSpinbox());
+    verifySheet("combobox-12", TavikComboBox(TavikComboBox::Editable));
+    verifySheet("combobox-12", TavikFontFamilyComboBox());
+    const TavikComboBox combo;
+    verifySheet("combobox-12", combo);
+    verifySheet("combobox-view-12", *combo.view());
+    verifySheet("scrollbar-without-right", *combo.view()->verticalScrollBar());
+    verifySheet("slider", TavikSlider(100, 20));
+    verifySheet("slider", TavikSlider());
+    verifySheet("container",
+                TavikContainer(Vertical, QStringLiteral("#ececec"), QStringLiteral("1"),
+                               QStringLiteral("#d3d3d3"), QStringLiteral("2"), QStringLiteral("0")));
+    verifySheet("container-transparent", TavikContainer(Horizontal));
+    const TavikExpandable panel;
+    const QList<TavikContainer *> boxes = panel.findChildren<TavikContainer *>();
+    verifySheet("container", *boxes.at(0));
+    verifySheet("expandable-content", *boxes.at(1));
+    verifySheet("expandable-inner", *boxes.at(2));
+    verifySheet("scrollarea",
+                TavikScrollArea(QStringLiteral("2"), QStringLiteral("#010203"), QStringLiteral("#fafafa")));
+    const TavikScrollArea area;
+    verifySheet("scrollarea-plain", area);
+    verifySheet("scrollbar-without-right", *area.verticalScrollBar());
+    const TavikImageList list;
+    verifySheet("imagelist", list);
+    verifySheet("scrollbar-all-sides", *list.verticalScrollBar());
+    verifySheet("colorbutton", TavikColorButton());
+    QCOMPARE(TavikDial().styleSheet() + TavikSeperateLine(100).styleSheet(), QString());
+}
+
+void TestClasses::sheetsOfChangedControls()
+{
+    TavikCheckBox coloured;
+    coloured.setFontColor(QStringLiteral("#123456"));
+    verifyChangedSheet("checkbox-changed-10", coloured);
+    verifyChangedSheet("radiobutton-changed-10", TavikRadioButton());
+
+    LenConverter::m_rem = 18;
+    TavikComboBox combo;
+    combo.setFontRemSz(1.5);
+    const auto resized = [](const char *file) {
+        return Support::expectedSheet(QString::fromLatin1(file))
+            .replace(QLatin1String("font-size: 14px"), QLatin1String("font-size: 27px"));
+    };
+    QCOMPARE(combo.styleSheet(), resized("combobox-12"));
+    QCOMPARE(
+        combo.view()->styleSheet(),
+        resized("combobox-view-12").replace(QLatin1String("height: 20px"), QLatin1String("height: 30px")));
+    TavikDoubleSpinbox fraction;
+    fraction.setFontRemSz(1.5);
+    QCOMPARE(fraction.styleSheet(), resized("doublespinbox-12"));
+    TavikSpinbox whole(0, 9, 1, nullptr, true, 1.5);
+    QCOMPARE(whole.styleSheet(), resized("spinbox-hidden-12"));
+    whole.setFontRemSz(1.5);
+    QCOMPARE(whole.styleSheet(), resized("spinbox-12"));
+    whole.updateStyleSheetHideStepBut();
+    QCOMPARE(whole.styleSheet(), resized("spinbox-hidden-12"));
 }
 
 TAVIK_TEST_MAIN(TestClasses)

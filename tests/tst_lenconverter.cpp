@@ -5,8 +5,8 @@
 
 #include <QScreen>
 
+#include <climits>
 #include <cmath>
-#include <limits>
 
 class TestLenConverter : public TestCase
 {
@@ -14,9 +14,7 @@ class TestLenConverter : public TestCase
 
 private Q_SLOTS:
     void startsAtZero();
-    void round_data();
     void round();
-    void convertsAtEachRem_data();
     void convertsAtEachRem();
     void textForms();
     void pixelsThereAndBack();
@@ -30,63 +28,42 @@ static const int remAtStart = LenConverter::m_rem;
 void TestLenConverter::startsAtZero()
 {
     QCOMPARE(remAtStart, 0);
-    LenConverter::m_rem = 0;
-    QCOMPARE(LenConverter::remToPx(40), 0);
-    QCOMPARE(LenConverter::iniRemToStrPx(40), QStringLiteral("0"));
-}
-
-void TestLenConverter::round_data()
-{
-    QTest::addColumn<double>("value");
-    QTest::addColumn<int>("expected");
-    const double infinity = std::numeric_limits<double>::infinity();
-    QTest::newRow("half up") << 2.5 << 3;
-    QTest::newRow("below half") << 2.49 << 2;
-    QTest::newRow("just below half") << std::nextafter(0.5, 0.0) << 0;
-    QTest::newRow("negative half is cut") << -1.5 << -1;
-    QTest::newRow("negative is cut") << -1.9 << -1;
-    QTest::newRow("negative fraction") << -0.7 << 0;
-    QTest::newRow("not a number") << std::nan("") << 0;
-    QTest::newRow("too big") << 1e300 << std::numeric_limits<int>::max();
-    QTest::newRow("one past the top") << 2147483647.5 << std::numeric_limits<int>::max();
-    QTest::newRow("too small") << -3e9 << std::numeric_limits<int>::min();
-    QTest::newRow("infinite") << infinity << std::numeric_limits<int>::max();
-    QTest::newRow("negative infinite") << -infinity << std::numeric_limits<int>::min();
 }
 
 void TestLenConverter::round()
 {
-    QFETCH(double, value);
-    QTEST(LenConverter::round(value), "expected");
-}
-
-void TestLenConverter::convertsAtEachRem_data()
-{
-    QTest::addColumn<int>("rem");
-    QTest::addColumn<int>("fontPx");       // 1.167 rem
-    QTest::addColumn<int>("design24");     // 24 design pixels
-    QTest::addColumn<QSize>("design12x7"); // 12 by 7 design pixels
-    QTest::addColumn<int>("minusQuarter"); // -0.25 rem
-    QTest::newRow("10") << 10 << 12 << 20 << QSize(10, 6) << -2;
-    QTest::newRow("12") << 12 << 14 << 24 << QSize(12, 7) << -3;
-    QTest::newRow("18") << 18 << 21 << 36 << QSize(18, 11) << -4;
-    QTest::newRow("24") << 24 << 28 << 48 << QSize(24, 14) << -6;
-    QTest::newRow("30") << 30 << 35 << 60 << QSize(30, 18) << -7;
+    const std::pair<double, int> rows[] = {
+        {2.5, 3},          {2.49, 2},           {std::nextafter(0.5, 0.0), 0},
+        {-1.5, -1},        {-1.9, -1},          {-0.7, 0}, // what is negative is cut
+        {std::nan(""), 0}, {1e300, INT_MAX},    {2147483647.5, INT_MAX},
+        {-3e9, INT_MIN},   {INFINITY, INT_MAX}, {-INFINITY, INT_MIN},
+    };
+    for (const auto &[value, expected] : rows)
+        QCOMPARE(LenConverter::round(value), expected);
 }
 
 void TestLenConverter::convertsAtEachRem()
 {
-    QFETCH(int, rem);
-    QFETCH(int, fontPx);
-    LenConverter::m_rem = rem;
-    QCOMPARE(LenConverter::rem(), rem);
-    QCOMPARE(LenConverter::remToPx(1.167), fontPx);
-    QCOMPARE(TypographyTool::defualtFontSz(), QString::number(fontPx));
-    QCOMPARE(TypographyTool::assistFontSz(), QString::number(rem));
-    QTEST(LenConverter::iniRemToPx(24), "design24");
-    QTEST(LenConverter::iniRemToPxSz(12, 7), "design12x7");
-    QTEST(LenConverter::remToPx(-0.25), "minusQuarter");
-    QCOMPARE(LenConverter::remToPx(0), 0);
+    const struct
+    {
+        int rem;
+        int fontPx; // 1.167 rem
+        int design24;
+        QSize design12x7;
+        int minusQuarter; // -0.25 rem
+    } rows[] = {
+        {10, 12, 20, {10, 6}, -2},  {12, 14, 24, {12, 7}, -3},  {18, 21, 36, {18, 11}, -4},
+        {24, 28, 48, {24, 14}, -6}, {30, 35, 60, {30, 18}, -7},
+    };
+    for (const auto &row : rows) {
+        LenConverter::m_rem = row.rem;
+        QCOMPARE(LenConverter::remToPx(1.167), row.fontPx);
+        QCOMPARE(TypographyTool::defualtFontSz(), QString::number(row.fontPx));
+        QCOMPARE(TypographyTool::assistFontSz(), QString::number(row.rem));
+        QCOMPARE(LenConverter::iniRemToPx(24), row.design24);
+        QCOMPARE(LenConverter::iniRemToPxSz(12, 7), row.design12x7);
+        QCOMPARE(LenConverter::remToPx(-0.25), row.minusQuarter);
+    }
 }
 
 void TestLenConverter::textForms()
@@ -113,8 +90,7 @@ void TestLenConverter::pixelsThereAndBack()
 void TestLenConverter::screenFacts()
 {
     const QSize available = QGuiApplication::primaryScreen()->availableSize();
-    QCOMPARE(LenConverter::deviceWidth(), available.width());
-    QCOMPARE(LenConverter::deviceHeight(), available.height());
+    QCOMPARE(QSize(LenConverter::deviceWidth(), LenConverter::deviceHeight()), available);
     QCOMPARE(LenConverter::designReference(), 1920);
     QCOMPARE(LenConverter::scale(), available.width() / 1920.0);
 }

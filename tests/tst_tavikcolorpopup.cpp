@@ -11,44 +11,28 @@
 
 #include <QDialog>
 #include <QLayout>
-#include <QMetaMethod>
 #include <QPointer>
 #include <QScreen>
 
-#include <memory>
-
 using Counts = QVector<int>;
-Q_DECLARE_METATYPE(QMargins)
 
 class TestTavikColorPopup : public TestCase
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void metaObject();
-    void contentsFit_data();
     void contentsFit();
-    void placement_data();
     void placement();
-    void showsAColour_data();
     void showsAColour();
     void typing_data();
     void typing();
-    void overlongNumber();
-    void hexadecimal_data();
-    void hexadecimal();
-    void controlsComeBeforeFields();
-    void repaintsOnlyWhatChanges();
-    void fieldsComeBeforeTheSignal();
+    void order();
     void truncations();
-    void greysStayGrey();
+    void repaintsOnlyWhatChanges();
     void palette();
     void samplerRuns();
     void samplerOverAModalDialog();
-    void samplerReleases();
     void deletedInItsOwnSignal();
-    void wildColours();
-    void sameShadow_data();
     void sameShadow();
 };
 
@@ -61,17 +45,13 @@ TavikLineEdit *edit(const TavikColorPopup &popup, int index)
     return popup.findChildren<TavikLineEdit *>().at(index);
 }
 
-QStringList texts(const TavikColorPopup &popup)
+/// What the eight fields show.
+QString texts(const TavikColorPopup &popup)
 {
     QStringList all;
-    for (int i = Hex; i <= Y; ++i)
-        all.append(edit(popup, i)->text());
-    return all;
-}
-
-QStringList words(const char *text)
-{
-    return QString::fromLatin1(text).split(QLatin1Char(' '));
+    for (const TavikLineEdit *field : popup.findChildren<TavikLineEdit *>())
+        all.append(field->text());
+    return all.join(QLatin1Char(' '));
 }
 
 TavikColorSilder *slider(const TavikColorPopup &popup, TavikColorSilder::Type type)
@@ -84,16 +64,12 @@ TavikColorPicker *picker(const TavikColorPopup &popup)
     return popup.findChild<TavikColorPicker *>();
 }
 
-TavikButton *pickButton(const TavikColorPopup &popup)
+/// Starts the sampler, and returns its window.
+QWidget *startSampler(const TavikColorPopup &popup)
 {
-    return popup.findChild<TavikButton *>(QString(), Qt::FindDirectChildrenOnly);
-}
-
-/// The sampler that is on the screen, if one is.
-QWidget *sampler()
-{
+    popup.findChild<TavikButton *>(QString(), Qt::FindDirectChildrenOnly)->click();
     for (QWidget *widget : QApplication::topLevelWidgets()) {
-        if (qstrcmp(widget->metaObject()->className(), "Screenshot") == 0 && widget->isVisible())
+        if (widget->inherits("Screenshot") && widget->isVisible())
             return widget;
     }
     return nullptr;
@@ -127,140 +103,90 @@ QVector<QImage> scenes(bool withPlainShadow)
     return pictures;
 }
 
-struct Difference
+/// Whether two pictures differ in no more than a few pixels, and in those by what nobody sees.
+bool areAlike(const QImage &one, const QImage &other)
 {
-    int pixels = 0;
-    int levels = 0;
-};
-
-Difference difference(const QImage &one, const QImage &other)
-{
-    Difference found;
+    int differing = 0;
     for (int y = 0; y < one.height(); ++y) {
         for (int x = 0; x < one.width(); ++x) {
             const QRgb p = one.pixel(x, y);
             const QRgb q = other.pixel(x, y);
-            const int levels = qMax(qMax(qAbs(qRed(p) - qRed(q)), qAbs(qGreen(p) - qGreen(q))),
-                                    qMax(qAbs(qBlue(p) - qBlue(q)), qAbs(qAlpha(p) - qAlpha(q))));
-            found.pixels += levels > 0;
-            found.levels = qMax(found.levels, levels);
+            differing += p != q;
+            for (const int shift : {0, 8, 16, 24}) {
+                if (qAbs(int(p >> shift & 0xff) - int(q >> shift & 0xff)) > 2)
+                    return false;
+            }
         }
     }
-    return found;
+    return differing <= 10;
 }
 
 } // namespace
 
-void TestTavikColorPopup::metaObject()
-{
-    const QByteArrayList names =
-        QByteArray("colorChanged colorPopupHide setCurrentColor showColorPopup onHueChanged onAlphaChanged "
-                   "onSatValChanged onHexEditChanged onREditChanged onGEditChanged onBEditChanged "
-                   "onAEditChanged onCEditChanged onMEditChanged onYEditChanged onColorWellSelected "
-                   "onAddColorWellRequested onClickPickColor onPickColorChanged")
-            .split(' ');
-    const QMetaObject &meta = TavikColorPopup::staticMetaObject;
-    QByteArrayList found;
-    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)
-        found.append(meta.method(i).name());
-    QCOMPARE(found, names);
-    QCOMPARE(meta.propertyCount(), meta.propertyOffset());
-    QCOMPARE(meta.superClass(), &QWidget::staticMetaObject);
-}
-
-void TestTavikColorPopup::contentsFit_data()
-{
-    QTest::addColumn<int>("rem");
-    for (int rem : Support::rems)
-        QTest::addRow("%d", rem) << rem;
-}
-
 void TestTavikColorPopup::contentsFit()
 {
-    QFETCH(int, rem);
-    LenConverter::m_rem = rem;
-    TavikColorPopup popup;
-    QCOMPARE(popup.size(), LenConverter::iniRemToPxSz(218, 398));
-    QCOMPARE(popup.windowFlags() & (Qt::Popup | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint),
-             Qt::Popup | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint);
-    popup.showColorPopup(QPoint(200, 10), Qt::red);
-    QVERIFY(popup.layout()->minimumSize().height() <= popup.height());
-    QCOMPARE(picker(popup)->size(), LenConverter::iniRemToPxSz(190, 136));
-    QCOMPARE(edit(popup, Hex)->size(), LenConverter::iniRemToPxSz(60, 20));
-    QCOMPARE(edit(popup, Y)->size(), LenConverter::iniRemToPxSz(28, 20));
-    // No control is pushed over another.
-    QCOMPARE(picker(popup)->geometry().intersected(slider(popup, TavikColorSilder::Hue)->geometry()),
-             QRect());
-    QVERIFY(edit(popup, C)->y() >= edit(popup, R)->geometry().bottom());
-    QVERIFY(popup.findChild<TavikColorWell *>()->y() > edit(popup, Y)->geometry().bottom());
-}
-
-void TestTavikColorPopup::placement_data()
-{
-    QTest::addColumn<QPoint>("anchor");
-    QTest::addColumn<QPoint>("position");
-    QTest::addColumn<QMargins>("margins");
-    const int screen = QGuiApplication::primaryScreen()->size().height();
-    const QMargins below(5, 19, 5, 5);
-    const QMargins above(5, 5, 5, 19);
-    // There is room below while 397 + 5 + 6 is less than what lies below the anchor.
-    const auto row = [&](const char *name, int x, int room, bool isBelow) {
-        const QPoint anchor(x, screen - room);
-        QTest::newRow(name) << anchor << QPoint(x - 175, isBelow ? anchor.y() : anchor.y() - 398 - 14 + 5)
-                            << (isBelow ? below : above);
-    };
-    row("room", 300, 500, true);
-    row("just enough", 300, 409, true);
-    row("just not", 300, 408, false);
-    row("left of the screen", -50, 500, true);
-    row("far right", 5000, 10, false);
+    for (const int rem : Support::rems) {
+        LenConverter::m_rem = rem;
+        TavikColorPopup popup;
+        popup.showColorPopup(QPoint(200, 10), Qt::red);
+        QCOMPARE(popup.size(), LenConverter::iniRemToPxSz(218, 398));
+        QVERIFY(popup.layout()->minimumSize().height() <= popup.height());
+        QCOMPARE(edit(popup, Hex)->size(), LenConverter::iniRemToPxSz(60, 20));
+        QCOMPARE(edit(popup, Y)->size(), LenConverter::iniRemToPxSz(28, 20));
+        const Qt::WindowFlags flags = Qt::Popup | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint;
+        QCOMPARE(popup.windowFlags() & flags, flags);
+    }
 }
 
 void TestTavikColorPopup::placement()
 {
-    QFETCH(QPoint, anchor);
+    const struct
+    {
+        int x;
+        int room; // between the anchor and the lower edge of the screen
+        bool isBelow;
+    } rows[] = {{300, 409, true}, // just more than 397 + 5 + 6
+                {300, 408, false},
+                {-50, 500, true}, // left of the screen
+                {5000, 10, false}};
     TavikColorPopup popup;
-    popup.showColorPopup(anchor, Qt::red);
-    QTEST(popup.pos(), "position");
-    QTEST(popup.layout()->contentsMargins(), "margins");
+    for (const auto &[x, room, isBelow] : rows) {
+        const int y = QGuiApplication::primaryScreen()->size().height() - room;
+        popup.showColorPopup({x, y}, Qt::red);
+        QCOMPARE(popup.pos(), QPoint(x - 175, isBelow ? y : y - 398 - 14 + 5));
+        QCOMPARE(popup.layout()->contentsMargins(),
+                 isBelow ? QMargins(5, 19, 5, 5) : QMargins(5, 5, 5, 19));
 
-    // The outline: white inside, nothing beside the arrow.
-    QFETCH(QMargins, margins);
-    const bool arrowUp = margins.top() > margins.bottom();
-    const QImage picture = Support::picture(&popup);
-    QCOMPARE(picture.pixelColor(175, arrowUp ? 16 : 386), QColor(Qt::white));
-    QVERIFY(picture.pixelColor(100, arrowUp ? 10 : 392) != QColor(Qt::white));
-    QCOMPARE(picture.pixelColor(8, arrowUp ? 314 : 300), QColor("#d3d3d3"));
-    QVERIFY(picture.pixelColor(8, arrowUp ? 388 : 379) == QColor(Qt::white));
-}
-
-void TestTavikColorPopup::showsAColour_data()
-{
-    QTest::addColumn<QColor>("color");
-    QTest::addColumn<QStringList>("fields");
-    QTest::addColumn<int>("hue");
-    QTest::addColumn<int>("alpha");
-    QTest::newRow("chromatic") << QColor(10, 200, 30, 128) << words("0ac81e 10 200 30 128 245 55 225")
-                               << 126 << 128;
-    QTest::newRow("grey") << QColor(Qt::white) << words("ffffff 255 255 255 255 0 0 0") << 0 << 255;
-    QTest::newRow("transparent black")
-        << QColor(0, 0, 0, 0) << words("000000 0 0 0 0 255 255 255") << 0 << 0;
+        // The outline: white inside, nothing beside the arrow and below.
+        const QImage picture = Support::picture(&popup);
+        QCOMPARE(picture.pixelColor(175, isBelow ? 16 : 386), QColor(Qt::white));
+        QVERIFY(picture.pixelColor(100, isBelow ? 10 : 392) != QColor(Qt::white));
+        QCOMPARE(picture.pixelColor(8, isBelow ? 314 : 300), QColor("#d3d3d3"));
+        QCOMPARE(picture.pixelColor(8, isBelow ? 388 : 379), QColor(Qt::white));
+        QVERIFY(picture.pixelColor(8, 395) != QColor(Qt::white));
+    }
 }
 
 void TestTavikColorPopup::showsAColour()
 {
-    QFETCH(QColor, color);
-    TavikColorPopup popup(Qt::blue);
-    QCOMPARE(popup.currentColor(), QColor(Qt::blue));
-    QVERIFY(!picker(popup)->currentColor().isValid());
+    const struct
+    {
+        QColor color;
+        const char *fields;
+        int hue;
+    } rows[] = {{QColor(10, 200, 30, 128), "0ac81e 10 200 30 128 245 55 225", 126},
+                {Qt::white, "ffffff 255 255 255 255 0 0 0", 0},
+                {QColor(0, 0, 0, 0), "000000 0 0 0 0 255 255 255", 0}};
+    TavikColorPopup popup;
     const QSignalSpy changed(&popup, &TavikColorPopup::colorChanged);
-    popup.showColorPopup(QPoint(200, 10), color);
-    QVERIFY(popup.isVisible());
-    QTEST(texts(popup), "fields");
-    QTEST(slider(popup, TavikColorSilder::Hue)->value(), "hue");
-    QTEST(slider(popup, TavikColorSilder::Alpha)->value(), "alpha");
-    QVERIFY(picker(popup)->currentHue() >= 0); // a grey opens with colours in the square
-    QCOMPARE(popup.currentColor().rgba(), color.rgba());
+    for (const auto &[color, fields, hue] : rows) {
+        popup.showColorPopup(QPoint(200, 10), color);
+        QCOMPARE(texts(popup), QString::fromLatin1(fields));
+        QCOMPARE(slider(popup, TavikColorSilder::Hue)->value(), hue);
+        QCOMPARE(slider(popup, TavikColorSilder::Alpha)->value(), color.alpha());
+        QVERIFY(picker(popup)->currentHue() >= 0); // a grey opens with colours in the square
+        QCOMPARE(popup.currentColor().rgba(), color.rgba());
+    }
     popup.setCurrentColor(Qt::green);
     QCOMPARE(changed.count(), 0);
 }
@@ -268,120 +194,102 @@ void TestTavikColorPopup::showsAColour()
 void TestTavikColorPopup::typing_data()
 {
     QTest::addColumn<int>("field");
-    QTest::addColumn<QString>("before");
-    QTest::addColumn<QString>("keys"); // '<' empties the field
+    QTest::addColumn<QString>("keys"); // '<' deletes: first the whole text, then a character
     QTest::addColumn<Counts>("emitted");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("partner");
-    const auto row = [](const char *name, Edit field, const char *before, const char *keys,
-                        const Counts &emitted, const char *text, const char *partner) {
-        QTest::newRow(name) << int(field) << QString::fromLatin1(before) << QString::fromLatin1(keys)
-                            << emitted << QString::fromLatin1(text) << QString::fromLatin1(partner);
+    QTest::addColumn<QString>("fields");
+    const auto row = [](const char *name, Edit field, const char *keys, const Counts &emitted,
+                        const char *fields) {
+        QTest::newRow(name) << int(field) << QString::fromLatin1(keys) << emitted
+                            << QString::fromLatin1(fields);
     };
-    row("leading zeros go", R, "50", "007", {1, 1, 2}, "7", "248");
-    row("emptied", R, "50", "<", {2}, "0", "255");
-    row("emptied from 0", R, "0", "<", {1}, "", "255");
-    row("green", G, "50", "12", {1, 1}, "12", "243");
-    row("blue", B, "50", "9", {1}, "9", "246");
-    row("cyan goes by red", C, "50", "5", {1}, "5", "250");
-    row("magenta emptied", M, "50", "<", {1}, "0", "255");
-    row("yellow", Y, "50", "255", {1, 1, 1}, "255", "0");
-    row("alpha stays empty", A, "50", "<", {1}, "", "");
+    row("leading zeros go", R, "007", {1, 1, 2}, "073232 7 50 50 40 248 205 205");
+    row("emptied, also from 0", R, "<<", {2, 1}, "003232  50 50 40 255 205 205");
+    // The partner cuts "-744" to three characters, and writes 255 + 74 back.
+    row("overlong", R, "999", {1, 1, 2}, "ff3232 329 50 50 40 -74 205 205");
+    row("green", G, "12", {1, 1}, "320c32 50 12 50 40 205 243 205");
+    row("blue", B, "9", {1}, "323209 50 50 9 40 205 205 246");
+    row("cyan goes by red", C, "5", {1}, "fa3232 250 50 50 40 5 205 205");
+    row("magenta emptied", M, "<", {1}, "32ff32 50 255 50 40 205 0 205");
+    row("yellow", Y, "255", {1, 1, 1}, "323200 50 50 0 40 205 205 255");
+    row("alpha stays empty", A, "<", {1}, "323232 50 50 50  205 205 205");
+    row("six digits", Hex, "<0ac81e", {1, 1, 1, 1, 1, 1, 1}, "0ac81e 10 200 30 40 245 55 225");
+    row("three are short for six", Hex, "<abc", {1, 1, 1, 1}, "abc 170 187 204 40 85 68 51");
+    row("four are none", Hex, "<abcd", {1, 1, 1, 1, 1}, "abcd 0 0 0 40 255 255 255");
 }
 
 void TestTavikColorPopup::typing()
 {
     QFETCH(int, field);
-    QFETCH(QString, before);
     QFETCH(QString, keys);
     QFETCH(Counts, emitted);
+    allowWarning(QStringLiteral("^\"QColor::setRed\": invalid value (999|329)"));
     TavikColorPopup popup;
-    popup.showColorPopup(QPoint(200, 10), QColor(10, 20, 30, 40));
+    popup.showColorPopup(QPoint(200, 10), QColor(50, 50, 50, 40));
     TavikLineEdit *typed = edit(popup, field);
-    typed->setText(before);
     QSignalSpy changed(&popup, &TavikColorPopup::colorChanged);
     typed->selectAll();
     for (int i = 0; i < keys.size(); ++i) {
         changed.clear();
         if (keys.at(i) == QLatin1Char('<'))
-            QTest::keyClick(typed, Qt::Key_Delete);
+            QTest::keyClick(typed, Qt::Key_Backspace);
         else
             QTest::keyClicks(typed, keys.mid(i, 1));
         QCOMPARE(changed.count(), emitted.at(i));
         QCOMPARE(changed.last().first().value<QColor>(), popup.currentColor());
     }
-    QTEST(typed->text(), "text");
-    if (field != A) {
-        const int partner = field < A ? field + 4 : field - 4;
-        QTEST(edit(popup, partner)->text(), "partner");
-    }
-}
-
-void TestTavikColorPopup::overlongNumber()
-{
-    expectWarning(QStringLiteral("^\"QColor::setRed\": invalid value 999"));
-    expectWarning(QStringLiteral("^\"QColor::setRed\": invalid value 329"));
-    TavikColorPopup popup;
-    popup.showColorPopup(QPoint(200, 10), Qt::black);
-    edit(popup, R)->selectAll();
-    QTest::keyClicks(edit(popup, R), QStringLiteral("999"));
-    // The partner cuts "-744" to three characters, and writes 255 + 74 back.
-    QCOMPARE(edit(popup, C)->text(), QStringLiteral("-74"));
-    QCOMPARE(edit(popup, R)->text(), QStringLiteral("329"));
-    QCOMPARE(popup.currentColor().red(), 255);
-}
-
-void TestTavikColorPopup::hexadecimal_data()
-{
-    QTest::addColumn<QString>("keys");
-    QTest::addColumn<QColor>("color");
-    QTest::addColumn<QStringList>("fields");
-    QTest::newRow("six digits") << QStringLiteral("0ac81e") << QColor(10, 200, 30, 40)
-                                << words("0ac81e 10 200 30 40 245 55 225");
-    QTest::newRow("three are short for six")
-        << QStringLiteral("abc") << QColor(0xaa, 0xbb, 0xcc, 40) << words("abc 170 187 204 40 85 68 51");
-    QTest::newRow("four are none") << QStringLiteral("abcd") << QColor()
-                                   << words("abcd 0 0 0 40 255 255 255");
-}
-
-void TestTavikColorPopup::hexadecimal()
-{
-    QFETCH(QString, keys);
-    QFETCH(QColor, color);
-    TavikColorPopup popup;
-    popup.showColorPopup(QPoint(200, 10), QColor(1, 2, 3, 40));
-    TavikLineEdit *hex = edit(popup, Hex);
-    hex->selectAll();
-    QTest::keyClick(hex, Qt::Key_Delete);
-    const QSignalSpy changed(&popup, &TavikColorPopup::colorChanged);
-    QTest::keyClicks(hex, keys);
-    QCOMPARE(changed.count(), keys.size());
     QTEST(texts(popup), "fields");
-    QCOMPARE(popup.currentColor().isValid(), color.isValid());
-    QCOMPARE(popup.currentColor().alpha(), 40);
-    if (color.isValid())
-        QCOMPARE(popup.currentColor().rgba(), color.rgba());
-    else
-        QCOMPARE(slider(popup, TavikColorSilder::Hue)->value(), 0);
+    const QColor color = popup.currentColor();
+    QCOMPARE(color.isValid(), keys != QLatin1String("<abcd"));
+    QCOMPARE(color.alpha(), edit(popup, A)->text().toInt());
+    QCOMPARE(slider(popup, TavikColorSilder::Hue)->value(), qMax(0, int(color.hueF() * 360)));
 }
 
-void TestTavikColorPopup::controlsComeBeforeFields()
+void TestTavikColorPopup::order()
 {
     TavikColorPopup popup;
     popup.showColorPopup(QPoint(200, 10), QColor(10, 20, 30));
-    const QStringList before = texts(popup);
-    QStringList seen;
-    connect(&popup, &TavikColorPopup::colorChanged, this, [&] { seen = texts(popup); });
-    QSignalSpy changed(&popup, &TavikColorPopup::colorChanged);
-
+    QString seen;
+    int hue = 0;
+    connect(&popup, &TavikColorPopup::colorChanged, this, [&] {
+        seen = texts(popup);
+        hue = slider(popup, TavikColorSilder::Hue)->value();
+    });
+    const QSignalSpy changed(&popup, &TavikColorPopup::colorChanged);
+    // A control speaks before the fields follow,
+    QString before = texts(popup);
     QTest::mousePress(picker(popup), Qt::LeftButton, {}, QPoint(100, 20));
     QCOMPARE(seen, before);
-    QVERIFY(texts(popup) != before);
+    before = texts(popup);
+    QVERIFY(before != seen);
     slider(popup, TavikColorSilder::Hue)->setValue(77);
-    slider(popup, TavikColorSilder::Alpha)->setValue(77);
-    QCOMPARE(changed.count(), 3);
-    QCOMPARE(edit(popup, A)->text(), QStringLiteral("77"));
+    QCOMPARE(seen, before);
     QCOMPARE(int(popup.currentColor().hueF() * 360), 77);
+    QCOMPARE(QLatin1Char('#') + edit(popup, Hex)->text(), popup.currentColor().name());
+    slider(popup, TavikColorSilder::Alpha)->setValue(200);
+    QCOMPARE(edit(popup, A)->text(), QStringLiteral("200"));
+    QCOMPARE(popup.currentColor().alpha(), 200);
+    QCOMPARE(changed.count(), 3);
+    // and a field when all else has followed.
+    popup.setCurrentColor(QColor(10, 20, 30));
+    edit(popup, R)->setText(QStringLiteral("200"));
+    QCOMPARE(seen, QStringLiteral("c8141e 200 20 30 255 55 235 225"));
+    QCOMPARE(hue, 356);
+}
+
+void TestTavikColorPopup::truncations()
+{
+    TavikColorPopup popup;
+    popup.setCurrentColor(QColor::fromHsvF(0.3333, 1.0, 1.0, 0.999));
+    QCOMPARE(slider(popup, TavikColorSilder::Hue)->value(), 119);
+    QCOMPARE(slider(popup, TavikColorSilder::Alpha)->value(), 254);
+    picker(popup)->updateSelectedColor(50, 50);
+    QCOMPARE(popup.currentColor().hsvHue(), 119); // the controls' rounding is in the colour now
+
+    popup.setCurrentColor(QColor(128, 128, 128));
+    QCOMPARE(slider(popup, TavikColorSilder::Hue)->value(), 0);
+    QCOMPARE(picker(popup)->currentHue(), -1);
+    slider(popup, TavikColorSilder::Hue)->setValue(120);
+    QCOMPARE(picker(popup)->currentHue(), 0);
 }
 
 void TestTavikColorPopup::repaintsOnlyWhatChanges()
@@ -395,41 +303,6 @@ void TestTavikColorPopup::repaintsOnlyWhatChanges()
     picker(popup)->updateSelectedColor(50, 50);
     QCOMPARE(square.take(), 1);
     QCOMPARE(hue.take(), 0);
-}
-
-void TestTavikColorPopup::fieldsComeBeforeTheSignal()
-{
-    TavikColorPopup popup;
-    popup.showColorPopup(QPoint(200, 10), QColor(10, 20, 30));
-    QString hex;
-    double hue = 0;
-    connect(&popup, &TavikColorPopup::colorChanged, this, [&] {
-        hex = edit(popup, Hex)->text();
-        hue = slider(popup, TavikColorSilder::Hue)->value();
-    });
-    edit(popup, R)->setText(QStringLiteral("200"));
-    QCOMPARE(hex, QStringLiteral("c8141e"));
-    QCOMPARE(hue, 356.0);
-}
-
-void TestTavikColorPopup::truncations()
-{
-    TavikColorPopup popup;
-    popup.setCurrentColor(QColor::fromHsvF(0.3333, 1.0, 1.0, 0.999));
-    QCOMPARE(slider(popup, TavikColorSilder::Hue)->value(), 119);
-    QCOMPARE(slider(popup, TavikColorSilder::Alpha)->value(), 254);
-    picker(popup)->updateSelectedColor(50, 50);
-    QCOMPARE(popup.currentColor().hsvHue(), 119); // the controls' rounding is in the colour now
-}
-
-void TestTavikColorPopup::greysStayGrey()
-{
-    TavikColorPopup popup;
-    popup.setCurrentColor(QColor(128, 128, 128));
-    QCOMPARE(slider(popup, TavikColorSilder::Hue)->value(), 0);
-    QCOMPARE(picker(popup)->currentHue(), -1);
-    slider(popup, TavikColorSilder::Hue)->setValue(120);
-    QCOMPARE(picker(popup)->currentHue(), 0);
 }
 
 void TestTavikColorPopup::palette()
@@ -454,18 +327,19 @@ void TestTavikColorPopup::samplerRuns()
     popup.showColorPopup(QPoint(200, 10), QColor(255, 0, 0, 90));
     const QSignalSpy changed(&popup, &TavikColorPopup::colorChanged);
     const QSignalSpy hidden(&popup, &TavikColorPopup::colorPopupHide);
-    pickButton(popup)->click();
+    const QPointer<QWidget> cancelled = startSampler(popup);
     QVERIFY(!popup.isVisible()); // closed by the sampler's window, before that was known
     QCOMPARE(hidden.count(), 0);
-    QTest::keyClick(sampler(), Qt::Key_Escape);
-    QVERIFY(!sampler());
+    QTest::keyClick(cancelled, Qt::Key_Escape);
+    QVERIFY(!cancelled->isVisible());
     QCOMPARE(changed.count(), 0);
     QCOMPARE(popup.currentColor().rgba(), qRgba(255, 0, 0, 90));
 
     popup.show();
-    pickButton(popup)->click(); // the cancelled one is still known while the popup closes
+    const QPointer<QWidget> running = startSampler(popup); // the cancelled one is still known then
     QCOMPARE(hidden.count(), 1);
-    const QPointer<QWidget> running = sampler();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(!cancelled);
     popup.show();
     popup.hide();
     QCOMPARE(hidden.count(), 2);
@@ -473,7 +347,7 @@ void TestTavikColorPopup::samplerRuns()
     QMetaObject::invokeMethod(running, "screenColor", Q_ARG(QColor, QColor(1, 2, 3)));
     QCOMPARE(changed.count(), 1);
     QCOMPARE(changed.last().first().value<QColor>(), QColor(1, 2, 3));
-    QCOMPARE(texts(popup), words("010203 1 2 3 255 254 253 252"));
+    QCOMPARE(texts(popup), QStringLiteral("010203 1 2 3 255 254 253 252"));
     QCOMPARE(hidden.count(), 3);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QVERIFY(!running);
@@ -489,71 +363,32 @@ void TestTavikColorPopup::samplerOverAModalDialog()
     dialog.setModal(true);
     dialog.show();
     popup.showColorPopup(QPoint(200, 10), Qt::red);
-    pickButton(popup)->click();
-    QTest::keyClick(sampler()->windowHandle(), Qt::Key_Escape); // as the window system tells of a key
-    QVERIFY(!sampler());
-}
-
-void TestTavikColorPopup::samplerReleases()
-{
-    auto popup = std::make_unique<TavikColorPopup>();
-    QVector<QPointer<QWidget>> runs;
-    for (int i = 0; i < 10; ++i) {
-        popup->show();
-        pickButton(*popup)->click();
-        runs.append(sampler());
-        QTest::keyClick(sampler(), Qt::Key_Escape);
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        for (int past = 0; past < i; ++past)
-            QVERIFY(!runs.at(past));
-    }
-    QVERIFY(runs.last());
-    popup.reset();
-    QVERIFY(!runs.last());
+    const QWidget *sampler = startSampler(popup);
+    QTest::keyClick(sampler->windowHandle(), Qt::Key_Escape); // as the window system tells of a key
+    QVERIFY(!sampler->isVisible());
 }
 
 void TestTavikColorPopup::deletedInItsOwnSignal()
 {
-    auto *popup = new TavikColorPopup;
-    const QPointer<QObject> guard(popup);
+    const QPointer<TavikColorPopup> popup(new TavikColorPopup);
     connect(popup, &TavikColorPopup::colorChanged, popup, &QObject::deleteLater);
     popup->showColorPopup(QPoint(200, 10), Qt::red);
-    pickButton(*popup)->click();
-    const QPointer<QWidget> running = sampler();
+    const QPointer<QWidget> running = startSampler(*popup);
     edit(*popup, R)->setText(QStringLiteral("7"));
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QVERIFY(!guard);
+    QVERIFY(!popup);
     QVERIFY(!running);
-}
-
-void TestTavikColorPopup::wildColours()
-{
-    TavikColorPopup popup;
-    for (const QColor &color : {QColor(), QColor::fromCmyk(1, 2, 3, 4), QColor::fromHsl(350, 255, 1),
-                                QColor::fromRgbF(0.5, 0.25, 0.125, 0.0625), QColor(Qt::transparent)}) {
-        popup.showColorPopup(QPoint(-5, -5), color);
-        Support::picture(&popup);
-    }
-}
-
-void TestTavikColorPopup::sameShadow_data()
-{
-    contentsFit_data();
 }
 
 void TestTavikColorPopup::sameShadow()
 {
-    QFETCH(int, rem);
-    LenConverter::m_rem = rem;
-    // One after the other, for only one window has the focus.
-    const QVector<QImage> ours = scenes(false);
-    const QVector<QImage> plain = scenes(true);
-    for (int i = 0; i < plain.size(); ++i) {
-        const Difference found = difference(ours.at(i), plain.at(i));
-        QVERIFY2(
-            found.pixels <= 10 && found.levels <= 2,
-            qPrintable(
-                QStringLiteral("scene %1: %2 pixels by %3").arg(i).arg(found.pixels).arg(found.levels)));
+    for (const int rem : Support::rems) {
+        LenConverter::m_rem = rem;
+        // One after the other, for only one window has the focus.
+        const QVector<QImage> ours = scenes(false);
+        const QVector<QImage> plain = scenes(true);
+        for (int i = 0; i < plain.size(); ++i)
+            QVERIFY2(areAlike(ours.at(i), plain.at(i)), qPrintable(QString::number(i)));
     }
 }
 
