@@ -14,6 +14,8 @@
 #include <QPointer>
 #include <QScreen>
 
+#include <algorithm>
+#include <limits>
 #include <memory>
 
 using Counts = QVector<int>;
@@ -43,6 +45,8 @@ private Q_SLOTS:
     void palette();
     void samplerIsCancelled();
     void samplerReleases();
+    void samplerIsDeletedByOthers();
+    void samplerStartsWhileAnotherDoes();
     void deletedInItsOwnSignal();
     void wildColours();
     void sameShadow_data();
@@ -226,6 +230,9 @@ void TestTavikColorPopup::placement_data()
     row("just not", 300, 408, false);
     row("left of the screen", -50, 500, true);
     row("far right", 5000, 10, false);
+    const QPoint beyond(std::numeric_limits<int>::min(), std::numeric_limits<int>::min());
+    QTest::newRow("beyond all screens")
+        << beyond << QPoint(-QWIDGETSIZE_MAX - 175, -QWIDGETSIZE_MAX) << below;
 }
 
 void TestTavikColorPopup::placement()
@@ -482,6 +489,41 @@ void TestTavikColorPopup::samplerReleases()
     QVERIFY(runs.last());
     popup.reset();
     QVERIFY(!runs.last());
+}
+
+/// As an application does that deletes all its windows.
+void TestTavikColorPopup::samplerIsDeletedByOthers()
+{
+    TavikColorPopup popup;
+    const QSignalSpy hidden(&popup, &TavikColorPopup::colorPopupHide);
+    for (int i = 0; i < 2; ++i) {
+        popup.show();
+        pickButton(popup)->click();
+        delete sampler();
+    }
+    popup.show();
+    popup.hide();
+    QCOMPARE(hidden.count(), 0); // there is no sampler any more
+}
+
+void TestTavikColorPopup::samplerStartsWhileAnotherDoes()
+{
+    TavikColorPopup popup;
+    popup.show();
+    pickButton(popup)->click();
+    QTest::keyClick(sampler(), Qt::Key_Escape);
+    popup.show();
+    auto once = std::make_shared<QMetaObject::Connection>();
+    *once = connect(&popup, &TavikColorPopup::colorPopupHide, &popup, [&] {
+        disconnect(*once);
+        pickButton(popup)->click();
+    });
+    pickButton(popup)->click(); // closes the popup, which tells so
+    QVERIFY(!*once);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    const auto isSampler = [](const QWidget *window) { return window->inherits("Screenshot"); };
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    QCOMPARE(std::count_if(windows.begin(), windows.end(), isSampler), 1);
 }
 
 void TestTavikColorPopup::deletedInItsOwnSignal()
