@@ -14,6 +14,9 @@
 #include <QPointer>
 #include <QScreen>
 
+#include <algorithm>
+#include <limits>
+
 using Counts = QVector<int>;
 
 class TestTavikColorPopup : public TestCase
@@ -32,6 +35,8 @@ private Q_SLOTS:
     void palette();
     void samplerRuns();
     void samplerOverAModalDialog();
+    void samplerIsDeletedByOthers();
+    void samplerStartsWhileAnotherDoes();
     void deletedInItsOwnSignal();
     void sameShadow();
 };
@@ -165,6 +170,9 @@ void TestTavikColorPopup::placement()
         QCOMPARE(picture.pixelColor(8, isBelow ? 388 : 379), QColor(Qt::white));
         QVERIFY(picture.pixelColor(8, 395) != QColor(Qt::white));
     }
+    const int beyond = std::numeric_limits<int>::min(); // all screens
+    popup.showColorPopup({beyond, beyond}, Qt::red);
+    QCOMPARE(popup.pos(), QPoint(-QWIDGETSIZE_MAX - 175, -QWIDGETSIZE_MAX));
 }
 
 void TestTavikColorPopup::showsAColour()
@@ -366,6 +374,39 @@ void TestTavikColorPopup::samplerOverAModalDialog()
     const QWidget *sampler = startSampler(popup);
     QTest::keyClick(sampler->windowHandle(), Qt::Key_Escape); // as the window system tells of a key
     QVERIFY(!sampler->isVisible());
+}
+
+/// As an application does that deletes all its windows.
+void TestTavikColorPopup::samplerIsDeletedByOthers()
+{
+    TavikColorPopup popup;
+    const QSignalSpy hidden(&popup, &TavikColorPopup::colorPopupHide);
+    for (int i = 0; i < 2; ++i) {
+        popup.show();
+        delete startSampler(popup);
+    }
+    popup.show();
+    popup.hide();
+    QCOMPARE(hidden.count(), 0); // there is no sampler any more
+}
+
+void TestTavikColorPopup::samplerStartsWhileAnotherDoes()
+{
+    TavikColorPopup popup;
+    popup.show();
+    QTest::keyClick(startSampler(popup), Qt::Key_Escape);
+    popup.show();
+    QMetaObject::Connection once;
+    once = connect(&popup, &TavikColorPopup::colorPopupHide, &popup, [&] {
+        disconnect(once);
+        startSampler(popup);
+    });
+    startSampler(popup); // closes the popup, which tells so
+    QVERIFY(!once);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    const auto isSampler = [](const QWidget *window) { return window->inherits("Screenshot"); };
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    QCOMPARE(std::count_if(windows.begin(), windows.end(), isSampler), 1);
 }
 
 void TestTavikColorPopup::deletedInItsOwnSignal()

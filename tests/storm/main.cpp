@@ -12,6 +12,8 @@
 #include <QScrollBar>
 #include <QTimerEvent>
 
+#include <unistd.h>
+
 namespace {
 
 /// Knows which widgets are in the middle of an event.
@@ -91,6 +93,7 @@ protected:
     {
         // A deed that processes events must not bring the next one forward.
         killTimer(event->timerId());
+        alarm(60); // a step without an end is a finding too: the log's last line names it
         // The loop may be late with them after events were processed within a deed.
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         Finding::checkSettled();
