@@ -21,6 +21,8 @@ PaintMouseRect::PaintMouseRect(std::shared_ptr<QPixmap> pixmap, QWidget *parent)
     : QWidget(parent)
     , m_pixmap(std::move(pixmap))
 {
+    for (QStaticText *text : {&m_rgb, &m_cmy})
+        text->setTextFormat(Qt::PlainText);
     // What the pointer does over the frame is ignored here, and so reaches the parent.
     setAttribute(Qt::WA_MouseTracking, true);
     setFixedSize(fixedSize);
@@ -45,7 +47,7 @@ void PaintMouseRect::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.fillRect(rect(), dim);
-    m_color = readColor();
+    setColor(readColor());
     if (m_color.isValid())
         paintSwatch(painter);
     paintOutline(painter);
@@ -58,6 +60,18 @@ QColor PaintMouseRect::readColor() const
     if (!m_pixmap->rect().contains(m_x, m_y))
         return {};
     return m_pixmap->toImage().pixel(m_x, m_y);
+}
+
+void PaintMouseRect::setColor(const QColor &color)
+{
+    if (color == m_color)
+        return;
+    m_color = color;
+    const int red = color.red();
+    const int green = color.green();
+    const int blue = color.blue();
+    m_rgb.setText(QStringLiteral("RGB:(%1,%2,%3)").arg(red).arg(green).arg(blue));
+    m_cmy.setText(QStringLiteral("CMY:(%1,%2,%3)").arg(255 - red).arg(255 - green).arg(255 - blue));
 }
 
 void PaintMouseRect::paintSwatch(QPainter &painter) const
@@ -73,11 +87,8 @@ void PaintMouseRect::paintOutline(QPainter &painter) const
 
 void PaintMouseRect::paintNumbers(QPainter &painter) const
 {
-    const int red = m_color.red();
-    const int green = m_color.green();
-    const int blue = m_color.blue();
     painter.setPen(Qt::white);
-    painter.drawText(6, height() - 24, QStringLiteral("RGB:(%1,%2,%3)").arg(red).arg(green).arg(blue));
-    painter.drawText(6, height() - 7,
-                     QStringLiteral("CMY:(%1,%2,%3)").arg(255 - red).arg(255 - green).arg(255 - blue));
+    const int ascent = painter.fontMetrics().ascent();
+    painter.drawStaticText(6, height() - 24 - ascent, m_rgb);
+    painter.drawStaticText(6, height() - 7 - ascent, m_cmy);
 }

@@ -2,6 +2,7 @@
 #define TAVIK_PAINTMOUSERECT_P_H
 
 #include <QColor>
+#include <QStaticText>
 #include <QWidget>
 
 #include <memory>
@@ -34,6 +35,7 @@ private:
     friend class Screenshot;
 
     QColor readColor() const;
+    void setColor(const QColor &color);
     void paintSwatch(QPainter &painter) const;
     void paintOutline(QPainter &painter) const;
     void paintNumbers(QPainter &painter) const;
@@ -42,6 +44,9 @@ private:
     int m_y = 0;
     std::shared_ptr<QPixmap> m_pixmap;
     QColor m_color;
+    // Laid out once for as long as the colour stays: that is half of what a move costs.
+    QStaticText m_rgb;
+    QStaticText m_cmy;
 };
 
 #endif
