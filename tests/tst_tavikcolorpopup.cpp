@@ -11,6 +11,7 @@
 
 #include <QDialog>
 #include <QLayout>
+#include <QMetaMethod>
 #include <QPointer>
 #include <QScreen>
 
@@ -24,6 +25,7 @@ class TestTavikColorPopup : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
+    void methodsInOrder();
     void contentsFit();
     void placement();
     void showsAColour();
@@ -127,6 +129,19 @@ bool areAlike(const QImage &one, const QImage &other)
 }
 
 } // namespace
+
+void TestTavikColorPopup::methodsInOrder()
+{
+    const QMetaObject &meta = TavikColorPopup::staticMetaObject;
+    QByteArrayList names;
+    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)
+        names.append(meta.method(i).name());
+    QCOMPARE(names.join(' '),
+             QByteArray("colorChanged colorPopupHide setCurrentColor showColorPopup onHueChanged "
+                        "onAlphaChanged onSatValChanged onHexEditChanged onREditChanged onGEditChanged "
+                        "onBEditChanged onAEditChanged onCEditChanged onMEditChanged onYEditChanged "
+                        "onColorWellSelected onAddColorWellRequested onClickPickColor onPickColorChanged"));
+}
 
 void TestTavikColorPopup::contentsFit()
 {

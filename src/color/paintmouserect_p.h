@@ -44,7 +44,7 @@ private:
     int m_y = 0;
     std::shared_ptr<QPixmap> m_pixmap;
     QColor m_color;
-    // Laid out once for as long as the colour stays: that is half of what a move costs.
+    // Laid out anew only when the colour changes, because each move of the pointer paints them.
     QStaticText m_rgb;
     QStaticText m_cmy;
 };
