@@ -120,6 +120,15 @@ void Support::hover(QWidget *widget)
     QApplication::sendEvent(widget, &move);
 }
 
+QWidget *Support::runningSampler()
+{
+    for (QWidget *window : QApplication::topLevelWidgets()) {
+        if (window->inherits("Screenshot") && window->isVisible())
+            return window;
+    }
+    return nullptr;
+}
+
 void Support::turnWheel(QWidget *widget)
 {
     const QPointF centre = QRectF(widget->rect()).center();

@@ -51,6 +51,9 @@ QImage picture(QWidget *widget);
 /// Puts a widget under the pointer, as the toolkit sees it.
 void hover(QWidget *widget);
 
+/// The window of the sampler that is on the screen, or null.
+QWidget *runningSampler();
+
 /// Turns the wheel by one notch over a widget, as a real mouse does: what the widget leaves goes to its
 /// parents.
 void turnWheel(QWidget *widget);

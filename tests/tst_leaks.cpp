@@ -46,15 +46,6 @@ double growth(int count, Round round)
     return double(heapInUse() - before) / count;
 }
 
-QWidget *runningSampler()
-{
-    for (QWidget *window : QApplication::topLevelWidgets()) {
-        if (window->inherits("Screenshot") && window->isVisible())
-            return window;
-    }
-    return nullptr;
-}
-
 void finishDeletions()
 {
     QCoreApplication::processEvents();
@@ -97,7 +88,7 @@ void TestLeaks::samplers()
     const double bytes = growth(100, [&](int round) {
         popup.showColorPopup({300, 300}, Qt::red);
         button->click();
-        QWidget *sampler = runningSampler();
+        QWidget *sampler = Support::runningSampler();
         QVERIFY(QTest::qWaitForWindowExposed(sampler));
         QTest::keyClick(sampler, round % 2 == 0 ? Qt::Key_Escape : Qt::Key_Alt);
         finishDeletions();

@@ -1,50 +1,12 @@
+#include "knownpicture.h"
 #include "paintmouserect_p.h"
 #include "screenshot_p.h"
 #include "support.h"
 #include "xserver.h"
 
-#include <QPainter>
-#include <QScreen>
-
 #include <memory>
 
 namespace {
-
-/// The colour of the known picture at a position on the screen, in pixels as the toolkit counts them.
-QColor pictureColor(const QPoint &pos)
-{
-    return {pos.x() % 256, pos.y() % 256, pos.x() / 256 * 40 + pos.y() / 256};
-}
-
-/// Covers the screen with a picture in which no two pixels are alike.
-class KnownPicture : public QWidget
-{
-public:
-    KnownPicture()
-    {
-        setWindowFlags(Qt::BypassWindowManagerHint | Qt::FramelessWindowHint);
-        setGeometry(QGuiApplication::primaryScreen()->geometry());
-        m_image = QImage(size(), QImage::Format_RGB32);
-        for (int y = 0; y < height(); ++y) {
-            for (int x = 0; x < width(); ++x)
-                m_image.setPixelColor(x, y, pictureColor({x, y}));
-        }
-        show();
-        static_cast<void>(QTest::qWaitForWindowExposed(this)); // the tests see it if it never is
-    }
-
-    void invert()
-    {
-        m_image.invertPixels();
-        repaint();
-    }
-
-protected:
-    void paintEvent(QPaintEvent *) override { QPainter(this).drawImage(0, 0, m_image); }
-
-private:
-    QImage m_image;
-};
 
 QImage screenPicture()
 {
@@ -160,7 +122,7 @@ void TestSampler::window()
     QCursor::setPos(400, 300);
     m_picture.repaint();
     const QImage before = screenPicture();
-    QCOMPARE(QColor(before.pixel(500, 300)), pictureColor({500, 300}));
+    QCOMPARE(QColor(before.pixel(500, 300)), KnownPicture::colorAt({500, 300}));
     const Run run;
     QVERIFY(run.window->isVisible());
     QCOMPARE(run.window->geometry(), QGuiApplication::primaryScreen()->geometry());
@@ -182,6 +144,8 @@ void TestSampler::picks_data()
     QTest::addColumn<QPoint>("pointer");
     QTest::addColumn<QPoint>("frame");
     QTest::newRow("top left corner") << QPoint(0, 0) << QPoint(4, 26);
+    QTest::newRow("top right corner") << QPoint(1279, 0) << QPoint(1165, 26);
+    QTest::newRow("bottom left corner") << QPoint(0, 1023) << QPoint(4, 901);
     QTest::newRow("bottom right corner") << QPoint(1279, 1023) << QPoint(1165, 901);
     QTest::newRow("frame on the right edge") << QPoint(1166, 200) << QPoint(1170, 226);
     QTest::newRow("frame past the right edge") << QPoint(1167, 200) << QPoint(1053, 226);
@@ -197,7 +161,7 @@ void TestSampler::picks()
     const Run atOnce;
     QTEST(atOnce.frame->pos(), "frame");
     atOnce.press();
-    QCOMPARE(atOnce.picked(), pictureColor(pointer));
+    QCOMPARE(atOnce.picked(), KnownPicture::colorAt(pointer));
     QVERIFY(!atOnce.window->isVisible());
 
     QCursor::setPos(700, 700);
@@ -205,7 +169,7 @@ void TestSampler::picks()
     QVERIFY(moved.moveTo(pointer));
     QTEST(moved.frame->pos(), "frame");
     QTest::keyPress(moved.window.get(), Qt::Key_Alt);
-    QCOMPARE(moved.picked(), pictureColor(pointer));
+    QCOMPARE(moved.picked(), KnownPicture::colorAt(pointer));
     QVERIFY(!moved.window->isVisible());
 }
 
@@ -217,7 +181,7 @@ void TestSampler::othersDoNothing()
     const QPoint onFrame = run.frame->geometry().center(); // it is not in the pointer's way
     QVERIFY(run.moveTo(onFrame));
     run.press();
-    QCOMPARE(run.picked(), pictureColor(onFrame));
+    QCOMPARE(run.picked(), KnownPicture::colorAt(onFrame));
 }
 
 void TestSampler::picksTheLastPaint()
@@ -225,7 +189,7 @@ void TestSampler::picksTheLastPaint()
     QCursor::setPos(200, 200);
     const Run run;
     QTest::mousePress(run.window.get(), Qt::LeftButton, {}, {600, 600});
-    QCOMPARE(run.picked(), pictureColor({200, 200}));
+    QCOMPARE(run.picked(), KnownPicture::colorAt({200, 200}));
 }
 
 void TestSampler::pictureIsFrozen()
@@ -235,12 +199,12 @@ void TestSampler::pictureIsFrozen()
     m_picture.invert();
     QVERIFY(run.moveTo({800, 600}));
     run.press();
-    QCOMPARE(run.picked(), pictureColor({800, 600}));
+    QCOMPARE(run.picked(), KnownPicture::colorAt({800, 600}));
 
     const Run next;
     next.press();
     m_picture.invert();
-    QCOMPARE(next.picked(), QColor::fromRgba(pictureColor({800, 600}).rgb() ^ 0xffffff));
+    QCOMPARE(next.picked(), QColor::fromRgba(KnownPicture::colorAt({800, 600}).rgb() ^ 0xffffff));
 }
 
 void TestSampler::framePicture()
@@ -299,7 +263,7 @@ void TestSamplerScaled::showsAndPicks()
     // The pointer's numbers are taken as those of the picture's pixel, which are half as far.
     QVERIFY(run.moveTo({400, 300}));
     run.press();
-    QCOMPARE(run.picked(), pictureColor({200, 150}));
+    QCOMPARE(run.picked(), KnownPicture::colorAt({200, 150}));
 }
 
 /// Where the platform does not tell what is on the screen.
@@ -309,6 +273,7 @@ class TestSamplerBlind : public TestCase
 
 private Q_SLOTS:
     void opensAndEnds();
+    void leavesTheApplicationRunning();
 };
 
 void TestSamplerBlind::opensAndEnds()
@@ -325,6 +290,16 @@ void TestSamplerBlind::opensAndEnds()
         QVERIFY(!run.window->isVisible());
         QVERIFY(run.colors.isEmpty());
     }
+}
+
+/// Also where no other window is open, as with a tool in the system's tray.
+void TestSamplerBlind::leavesTheApplicationRunning()
+{
+    const Run run;
+    QTimer::singleShot(0, run.window.get(), [&] { QTest::keyPress(run.window.get(), Qt::Key_Escape); });
+    QTimer::singleShot(50, run.window.get(), [] { QCoreApplication::exit(7); });
+    QCOMPARE(QApplication::exec(), 7);
+    QVERIFY(!run.window->isVisible());
 }
 
 namespace {

@@ -1,12 +1,8 @@
-#include "support.h"
+#include "knownpicture.h"
 #include "xserver.h"
 
 #include <Tavik/LenConverter>
 #include <Tavik/Tavik>
-
-#include <QPainter>
-#include <QScreen>
-#include <QSignalSpy>
 
 /// A colour taken off a real screen with the keyboard alone.
 class TestSamplerKeys : public TestCase
@@ -17,43 +13,6 @@ private Q_SLOTS:
     void picks_data();
     void picks();
 };
-
-namespace {
-
-/// A desktop on which no two pixels side by side have the same colour.
-class Desktop : public QWidget
-{
-public:
-    Desktop()
-    {
-        setWindowFlags(Qt::BypassWindowManagerHint);
-        setGeometry(QGuiApplication::primaryScreen()->geometry());
-    }
-
-    static QColor colorAt(const QPoint &pos) { return {pos.x() % 256, pos.y() % 256, pos.x() / 256 * 40}; }
-
-protected:
-    void paintEvent(QPaintEvent *) override
-    {
-        QImage image(size(), QImage::Format_RGB32);
-        for (int y = 0; y < height(); ++y) {
-            for (int x = 0; x < width(); ++x)
-                image.setPixelColor(x, y, colorAt({x, y}));
-        }
-        QPainter(this).drawImage(0, 0, image);
-    }
-};
-
-QWidget *openSampler()
-{
-    for (QWidget *window : QApplication::topLevelWidgets()) {
-        if (window->isVisible() && window->inherits("Screenshot"))
-            return window;
-    }
-    return nullptr;
-}
-
-} // namespace
 
 void TestSamplerKeys::picks_data()
 {
@@ -73,9 +32,7 @@ void TestSamplerKeys::picks()
     QFETCH(QVector<int>, keys);
     QFETCH(QPoint, way);
     const QPoint from(300, 400);
-    Desktop desktop;
-    desktop.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&desktop));
+    const KnownPicture picture;
     QCursor::setPos(from);
     TavikColorPopup popup;
     TavikKeyboardAccess::install(&popup);
@@ -85,19 +42,20 @@ void TestSamplerKeys::picks()
 
     QTest::keyClick(popup.findChild<TavikColorPicker *>(), Qt::Key_Tab);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
-    QTRY_VERIFY(openSampler());
-    QVERIFY(QTest::qWaitForWindowExposed(openSampler()));
+    QTRY_VERIFY(Support::runningSampler());
+    QVERIFY(QTest::qWaitForWindowExposed(Support::runningSampler()));
     for (const int key : qAsConst(keys)) {
         const int modifiers = key & Qt::KeyboardModifierMask;
-        QTest::keyClick(openSampler(), Qt::Key(key & ~modifiers), Qt::KeyboardModifiers(modifiers));
+        QTest::keyClick(Support::runningSampler(), Qt::Key(key & ~modifiers),
+                        Qt::KeyboardModifiers(modifiers));
     }
-    QVERIFY(!openSampler());
+    QVERIFY(!Support::runningSampler());
     if (keys.last() == Qt::Key_Escape) {
         QCOMPARE(changed.count(), 0);
         return;
     }
     QCOMPARE(changed.count(), 1);
-    QCOMPARE(changed.first().first().value<QColor>(), Desktop::colorAt(from + way));
+    QCOMPARE(changed.first().first().value<QColor>(), KnownPicture::colorAt(from + way));
     QCOMPARE(QCursor::pos(), from + way);
 }
 

@@ -75,11 +75,7 @@ TavikColorPicker *picker(const TavikColorPopup &popup)
 QWidget *startSampler(const TavikColorPopup &popup)
 {
     popup.findChild<TavikButton *>(QString(), Qt::FindDirectChildrenOnly)->click();
-    for (QWidget *widget : QApplication::topLevelWidgets()) {
-        if (widget->inherits("Screenshot") && widget->isVisible())
-            return widget;
-    }
-    return nullptr;
+    return Support::runningSampler();
 }
 
 /// What the popup looks like over a drag, a change of hue, of palette and focus, and a flip; with its own shadow

@@ -21,6 +21,8 @@ Screenshot::Screenshot(QWidget *parent)
         setWindowModality(Qt::ApplicationModal);
     showFullScreen();
     setAttribute(Qt::WA_MouseTracking, true);
+    // An application whose own windows are hidden while it samples goes on when this one closes.
+    setAttribute(Qt::WA_QuitOnClose, false);
     const QPoint pointer = QCursor::pos();
     Q_EMIT cursorPosChange(pointer.x(), pointer.y()); // to the frame; clazy:exclude=incorrect-emit
     show();
