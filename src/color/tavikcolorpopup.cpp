@@ -30,6 +30,13 @@ QString complement(int channel)
     return QString::number(255 - channel);
 }
 
+/// Writes into a field whose slot is not to run.
+void rewrite(TavikLineEdit *edit, const QString &text)
+{
+    const QSignalBlocker blocker(edit);
+    edit->setText(text);
+}
+
 } // namespace
 
 /// One of the eight fields, as the column is built from them.
@@ -226,29 +233,35 @@ void TavikColorPopup::updateSliders()
 
 void TavikColorPopup::updateHexEdit()
 {
-    const QSignalBlocker blocker(m_hexEdit);
-    m_hexEdit->setText(m_currentColor.name());
+    rewrite(m_hexEdit, m_currentColor.name());
 }
 
 void TavikColorPopup::updateRGBEdit()
 {
-    const QSignalBlocker blockers[] = {QSignalBlocker(m_rEdit), QSignalBlocker(m_gEdit),
-                                       QSignalBlocker(m_bEdit), QSignalBlocker(m_cEdit),
-                                       QSignalBlocker(m_mEdit), QSignalBlocker(m_yEdit)};
-    m_rEdit->setText(QString::number(m_currentColor.red()));
-    m_gEdit->setText(QString::number(m_currentColor.green()));
-    m_bEdit->setText(QString::number(m_currentColor.blue()));
-    m_cEdit->setText(complement(m_currentColor.red()));
-    m_mEdit->setText(complement(m_currentColor.green()));
-    m_yEdit->setText(complement(m_currentColor.blue()));
+    rewriteRGB();
+    rewriteCMY();
 }
 
 void TavikColorPopup::updateEditValues()
 {
     updateHexEdit();
-    updateRGBEdit();
-    const QSignalBlocker blocker(m_aEdit);
-    m_aEdit->setText(QString::number(m_currentColor.alpha()));
+    rewriteRGB();
+    rewrite(m_aEdit, QString::number(m_currentColor.alpha()));
+    rewriteCMY();
+}
+
+void TavikColorPopup::rewriteRGB()
+{
+    rewrite(m_rEdit, QString::number(m_currentColor.red()));
+    rewrite(m_gEdit, QString::number(m_currentColor.green()));
+    rewrite(m_bEdit, QString::number(m_currentColor.blue()));
+}
+
+void TavikColorPopup::rewriteCMY()
+{
+    rewrite(m_cEdit, complement(m_currentColor.red()));
+    rewrite(m_mEdit, complement(m_currentColor.green()));
+    rewrite(m_yEdit, complement(m_currentColor.blue()));
 }
 
 void TavikColorPopup::onHueChanged(int value)
@@ -281,31 +294,32 @@ void TavikColorPopup::onHexEditChanged()
 
 void TavikColorPopup::onREditChanged()
 {
-    const int red = number(m_rEdit);
-    m_currentColor.setRed(red);
-    m_cEdit->setText(complement(red));
-    followField();
+    followChannel(&QColor::setRed, m_rEdit, m_cEdit);
 }
 
 void TavikColorPopup::onGEditChanged()
 {
-    const int green = number(m_gEdit);
-    m_currentColor.setGreen(green);
-    m_mEdit->setText(complement(green));
-    followField();
+    followChannel(&QColor::setGreen, m_gEdit, m_mEdit);
 }
 
 void TavikColorPopup::onBEditChanged()
 {
-    const int blue = number(m_bEdit);
-    m_currentColor.setBlue(blue);
-    m_yEdit->setText(complement(blue));
-    followField();
+    followChannel(&QColor::setBlue, m_bEdit, m_yEdit);
 }
 
 void TavikColorPopup::onAEditChanged()
 {
     m_currentColor.setAlpha(number(m_aEdit));
+    followField();
+}
+
+/// The partner's slot runs too: it writes the plain number back.
+void TavikColorPopup::followChannel(void (QColor::*set)(int), const TavikLineEdit *typed,
+                                    TavikLineEdit *partner)
+{
+    const int channel = number(typed);
+    (m_currentColor.*set)(channel);
+    partner->setText(complement(channel));
     followField();
 }
 
@@ -387,8 +401,8 @@ void TavikColorPopup::showColorPopup(const QPoint &pos, const QColor &color)
     if (hsv.hue() < 0)
         hsv.setHsv(0, color.saturation(), color.value(), color.alpha());
     setCurrentColor(hsv);
-    m_mainLayout
-        ->activate(); // where the side has changed, the controls are to cast their shadow from there
+    // Where the side has changed, the controls are to cast their shadow from their new places.
+    m_mainLayout->activate();
     if (PopupShadow *own = shadow())
         own->prepare();
     show();

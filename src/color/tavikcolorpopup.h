@@ -33,7 +33,8 @@ class TavikLineEdit;
 /// Open it by showColorPopup(): show() alone gives neither the outline nor the colour. It closes on a press
 /// outside.
 ///
-/// While a hexadecimal value is typed, colorChanged() may carry an invalid colour. A hue is kept in whole degrees
+/// While a hexadecimal value is typed, colorChanged() may carry an invalid colour. A number above 255 counts as
+/// 255, though a field may show it, or another such number in its place. A hue is kept in whole degrees
 /// by its slider: what the square or a slider changes takes that hue.
 ///
 /// The sampler shows a picture of the screen as it was when its button was clicked, the popup included. Left
@@ -58,17 +59,23 @@ public:
     QColor currentColor() const;
 
 public Q_SLOTS:
-    /// Sets the colour in all controls. Emits nothing.
+    /// Sets the colour in all controls. Emits nothing. A grey has no hue, so the square shows greys alone until
+    /// the hue slider is moved, while a drag in it gives colours of hue 0. An invalid colour stays one and shows
+    /// as black.
     void setCurrentColor(const QColor &currentColor);
 
     /// Opens the popup with a colour at a global point, in pixels: below it, or above it where there is no room
     /// below on the primary screen. Sideways it always has its arrow at the point, also where it then stands
-    /// partly off the screen. A grey gets the hue 0, so that the square shows colours. Emits nothing.
+    /// partly off the screen. A grey gets the hue 0, so that the square shows colours; an invalid colour stays
+    /// one and shows as black. Emits nothing.
     void showColorPopup(const QPoint &pos, const QColor &color);
 
 Q_SIGNALS:
     /// The user has changed the colour. Emitted for each step of a drag, each key, and each colour taken from
     /// the palette or the screen; twice for a key that makes a field write its number anew, as "007" to "7".
+    ///
+    /// A slot may call deleteLater() on the popup, but must not let an event loop of its own delete it: the popup
+    /// is still at work then.
     void colorChanged(QColor color);
 
     /// The sampler has delivered a colour, or the popup was hidden after the sampler was started and has
@@ -114,6 +121,9 @@ private:
     void updateHexEdit();
     void updateRGBEdit();
     void updateEditValues();
+    void rewriteRGB();
+    void rewriteCMY();
+    void followChannel(void (QColor::*set)(int), const TavikLineEdit *typed, TavikLineEdit *partner);
     void followField();
 
     PopupShadow *shadow() const;
