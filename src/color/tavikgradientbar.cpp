@@ -193,7 +193,7 @@ QPoint TavikGradientBar::handleCenter(int value) const
 
 int TavikGradientBar::valueAt(int x) const
 {
-    // Without a bar to drag along this is no number or out of all bounds, which no drag accepts.
+    // A bar without a width gives infinity or no number, which no drag accepts.
     return truncated((double(x) - m_barRect.left()) / m_barRect.width() * (m_maxValue - m_minValue));
 }
 
