@@ -19,8 +19,8 @@ void ColoursPage::addWiring()
         tr("Each control only asks for a popup. The answer goes to the one that asked last; below stands "
            "what all of them emit."),
         ColourSpecimens::wired(),
-        QStringLiteral("connect(fill, &TavikColorButton::showPopup, this, [=](const QPoint &pos, const "
-                       "QColor &color) {\n"
+        QStringLiteral("connect(fill, &TavikColorButton::showPopup, this,\n"
+                       "        [=](const QPoint &pos, const QColor &color) {\n"
                        "    disconnect(m_answer); // of the control that asked before\n"
                        "    m_answer = connect(popup, &TavikColorPopup::colorChanged,\n"
                        "                       fill, &TavikColorButton::setCurrentColor);\n"

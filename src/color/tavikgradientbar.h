@@ -29,8 +29,8 @@
 ///
 /// The rectangles are laid out once, from the size at construction. Where the height is below 7 pixels, or
 /// the width is too small for squares and bar side by side, some of them are empty or inside out: they show
-/// nothing of use, and a handle that can still be dragged goes against the pointer. A bar needs a
-/// width of more than three times the height and 2 pixels.
+/// nothing of use, and a handle that can still be dragged goes against the pointer. A bar needs a width of more
+/// than three times the height and 2 pixels.
 class TAVIK_EXPORT TavikGradientBar : public QWidget
 {
     Q_OBJECT
