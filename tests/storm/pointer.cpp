@@ -99,35 +99,15 @@ public:
     Qt::MouseButton button;
 };
 
-Deed click(Random &random)
-{
-    const Mouse mouse(random);
-    const Place place(random);
-    return {mouse.text() + QLatin1Char(' ') + place.text(), [=](Stage &stage) {
-                mouse.send(stage, QEvent::MouseMove, place);
-                mouse.send(stage, QEvent::MouseButtonPress, place);
-                mouse.send(stage, QEvent::MouseButtonRelease, place);
-            }};
-}
-
-Deed doubleClick(Random &random)
-{
-    const Mouse mouse(random);
-    const Place place(random);
-    return {mouse.text() + QLatin1Char(' ') + place.text(), [=](Stage &stage) {
-                mouse.send(stage, QEvent::MouseButtonDblClick, place);
-                mouse.send(stage, QEvent::MouseButtonRelease, place);
-            }};
-}
-
-/// A press, a move or a release alone: what belongs to it comes later, to another control, or never.
-template <int type>
-Deed single(Random &random)
+/// These events at one place. A press, a move or a release may stand alone: what belongs to it comes later, to
+/// another control, or never.
+template <int... types>
+Deed atOnePlace(Random &random)
 {
     const Mouse mouse(random);
     const Place place(random);
     return {mouse.text() + QLatin1Char(' ') + place.text(),
-            [=](Stage &stage) { mouse.send(stage, QEvent::Type(type), place); }};
+            [=](Stage &stage) { (mouse.send(stage, QEvent::Type(types), place), ...); }};
 }
 
 Deed drag(Random &random)
@@ -202,11 +182,11 @@ Deed hover(Random &random)
 const std::vector<Action> &Actions::pointer()
 {
     static const std::vector<Action> actions = {
-        {"click", 30, click},
-        {"doubleClick", 4, doubleClick},
-        {"press", 5, single<QEvent::MouseButtonPress>},
-        {"move", 5, single<QEvent::MouseMove>},
-        {"release", 5, single<QEvent::MouseButtonRelease>},
+        {"click", 30, atOnePlace<QEvent::MouseMove, QEvent::MouseButtonPress, QEvent::MouseButtonRelease>},
+        {"doubleClick", 4, atOnePlace<QEvent::MouseButtonDblClick, QEvent::MouseButtonRelease>},
+        {"press", 5, atOnePlace<QEvent::MouseButtonPress>},
+        {"move", 5, atOnePlace<QEvent::MouseMove>},
+        {"release", 5, atOnePlace<QEvent::MouseButtonRelease>},
         {"drag", 15, drag},
         {"wheel", 5, wheel},
         {"hover", 5, hover},

@@ -58,25 +58,15 @@ Setter setter(const char *name, Result (Owner::*member)(Arguments...) const)
             })};
 }
 
-/// A call with a few pixels instead of any whole number. See Wild::length().
-template <class Class, class Owner>
-Setter pixelSetter(const char *name, void (Owner::*member)(int))
+/// A call with a value of the kind that `draw` gives, where another one of its type would test too much or too
+/// little: pixels instead of any whole number, or any number instead of a length. See Wild::length().
+template <class Class, class Owner, class Value>
+Setter setterOf(const char *name, void (Owner::*member)(Value), Value (*draw)(Random &))
 {
-    return {Class::staticMetaObject.className(), name, [member](Random &random) {
-                const int px = Wild::pixels(random);
-                return Call{QString::number(px),
-                            [=](QWidget *widget) { (static_cast<Class *>(widget)->*member)(px); }};
-            }};
-}
-
-/// A call with any number instead of a length.
-template <class Class, class Owner>
-Setter numberSetter(const char *name, void (Owner::*member)(double))
-{
-    return {Class::staticMetaObject.className(), name, [member](Random &random) {
-                const double number = Wild::number(random);
-                return Call{QString::number(number),
-                            [=](QWidget *widget) { (static_cast<Class *>(widget)->*member)(number); }};
+    return {Class::staticMetaObject.className(), name, [=](Random &random) {
+                const Value value = draw(random);
+                return Call{QString::number(value),
+                            [=](QWidget *widget) { (static_cast<Class *>(widget)->*member)(value); }};
             }};
 }
 
@@ -115,7 +105,7 @@ const std::vector<Setter> &setterTable()
         CALL(TavikButton, initStyleProperties),
         CALL(TavikButton, updateStyleSheet),
         CALL(TavikButton, setFontRemSz),
-        pixelSetter<TavikButton>("setFontPxSz", &TavikButton::setFontPxSz),
+        setterOf<TavikButton>("setFontPxSz", &TavikButton::setFontPxSz, Wild::pixels),
         CALL(TavikButton, setIsPaintOverrided),
         CALL(TavikButton, setBgColor),
         CALL(TavikButton, setHoverBgColor),
@@ -144,7 +134,7 @@ const std::vector<Setter> &setterTable()
         CALL_AS(TavikButtonGroup, addIconButton, const QIcon &),
         CALL(TavikButtonGroup, addRadioButton),
         CALL(TavikButtonGroup, setRemSpacing),
-        pixelSetter<TavikButtonGroup>("setPxSpacing", &TavikButtonGroup::setPxSpacing),
+        setterOf<TavikButtonGroup>("setPxSpacing", &TavikButtonGroup::setPxSpacing, Wild::pixels),
         CALL(TavikButtonGroup, setIsUncheckable),
         CALL(TavikButtonGroup, setIconRemSz),
         CALL(TavikButtonGroup, setIconPxSz),
@@ -166,10 +156,10 @@ const std::vector<Setter> &setterTable()
 
         CALL_AS(TavikLineEdit, setContent, const QString &),
         CALL_AS(TavikLineEdit, setContent, int),
-        numberSetter<TavikLineEdit>("setContent", &TavikLineEdit::setContent),
+        setterOf<TavikLineEdit>("setContent", qOverload<double>(&TavikLineEdit::setContent), Wild::number),
         CALL(TavikLineEdit, setIntRange),
         CALL(TavikLineEdit, setFontRemSz),
-        pixelSetter<TavikLineEdit>("setFontPxSz", &TavikLineEdit::setFontPxSz),
+        setterOf<TavikLineEdit>("setFontPxSz", &TavikLineEdit::setFontPxSz, Wild::pixels),
         CALL(TavikLineEdit, updateStyleSheet),
         CALL(TavikLineEdit, initValidator),
         CALL(TavikLineEdit, setReadOnly),
@@ -192,8 +182,8 @@ const std::vector<Setter> &setterTable()
         CALL(TavikDoubleSpinbox, setFontRemSz),
         CALL(TavikDoubleSpinbox, updateStyleSheet),
         CALL(TavikDoubleSpinbox, setRange),
-        numberSetter<TavikDoubleSpinbox>("setValue", &TavikDoubleSpinbox::setValue),
-        numberSetter<TavikDoubleSpinbox>("setSingleStep", &TavikDoubleSpinbox::setSingleStep),
+        setterOf<TavikDoubleSpinbox>("setValue", &TavikDoubleSpinbox::setValue, Wild::number),
+        setterOf<TavikDoubleSpinbox>("setSingleStep", &TavikDoubleSpinbox::setSingleStep, Wild::number),
         CALL(TavikDoubleSpinbox, stepDown),
         REM_SIZES(TavikDoubleSpinbox),
 
@@ -231,9 +221,9 @@ const std::vector<Setter> &setterTable()
         CALL(TavikSeperateLine, setText),
 
         CALL(TavikContainer, setSpacing),
-        pixelSetter<TavikContainer>("addSpacing", &TavikContainer::addSpacing),
+        setterOf<TavikContainer>("addSpacing", &TavikContainer::addSpacing, Wild::pixels),
         CALL(TavikContainer, addStretch),
-        pixelSetter<TavikContainer>("setContentMargin", &TavikContainer::setContentMargin),
+        setterOf<TavikContainer>("setContentMargin", &TavikContainer::setContentMargin, Wild::pixels),
         CALL(TavikContainer, removeMargins),
         CALL_AS(TavikContainer, setAlignment, Qt::Alignment),
         REM_SIZES(TavikContainer),
@@ -265,7 +255,7 @@ const std::vector<Setter> &setterTable()
         CALL(TavikColorButton, click),
         REM_SIZES(TavikColorButton),
 
-        numberSetter<TavikColorPicker>("setCurrentHue", &TavikColorPicker::setCurrentHue),
+        setterOf<TavikColorPicker>("setCurrentHue", &TavikColorPicker::setCurrentHue, Wild::number),
         CALL(TavikColorPicker, setCurrentColor),
         CALL(TavikColorPicker, updateColors),
         CALL(TavikColorPicker, updateSelectedColor),
