@@ -93,6 +93,32 @@ void show()
     QCoreApplication::processEvents();
 }
 
+// What readers wire as the pages do takes whole hexadecimal values and drops half-typed ones.
+void typeInto(TavikColorPopup *popup, TavikColorButton *button)
+{
+    button->click();
+    auto *hex = popup->findChild<TavikLineEdit *>();
+    hex->setText(\"123456\");
+    hex->setText(\"12345\");
+    if (button->currentColor() != QColor(\"#123456\"))
+        qWarning(\"A half-typed colour arrives\");
+    popup->close();
+}
+
+void typeColors()
+{
+    QWidget window;
+    auto *button = new TavikColorButton(&window);
+    (new ColorWiring(&window))->serve(button);
+    typeInto(window.findChild<TavikColorPopup *>(), button);
+
+    TavikColorPopup popup;
+    TavikColorButton other;
+    TavikGradientBar bar;
+    wire(&popup, {&other}, &bar);
+    typeInto(&popup, &other);
+}
+
 int main(int argc, char **argv)
 {
     QApplication app(argc, argv);
@@ -103,7 +129,8 @@ int main(int argc, char **argv)
         std::exit(1);
     });
     LenConverter::initRem();
-${calls}}
+${calls}    typeColors();
+}
 ")
 build_application(fragments "${start_lists}" "${blocks}/fragments.cpp")
 # A message of the toolkit is a failure.

@@ -102,7 +102,7 @@ void TestPictures::drawing_data()
     add("Color/images/radial_gradient",
         swatch("#D3D3D3", {{0.5, 0.5, "#FBFDFA"}, {0.08, 0.92, "#6F7272"}}));
     add("Color/images/radial_gradient_hover",
-        swatch("#07825C", {{0.5, 0.5, "#FBFDFA"}, {0.08, 0.92, "#08A275"}}));
+        swatch("#07825C", {{0.5, 0.5, "#FBFDFA"}, {0.08, 0.92, "#08A274"}}));
 
     add("Button/images/delete", {{0.5, 0.08, "#FC5B56"}, {0.5, 0.5, none}, {0.01, 0.01, none}});
     add("Button/images/delete_grey", {{0.5, 0.08, "#EAEAEA"}, {0.5, 0.5, "#8C8C8C"}, {0.01, 0.01, none}});

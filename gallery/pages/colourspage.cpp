@@ -22,8 +22,11 @@ void ColoursPage::addWiring()
         QStringLiteral("connect(fill, &TavikColorButton::showPopup, this,\n"
                        "        [=](const QPoint &pos, const QColor &color) {\n"
                        "    disconnect(m_answer); // of the control that asked before\n"
-                       "    m_answer = connect(popup, &TavikColorPopup::colorChanged,\n"
-                       "                       fill, &TavikColorButton::setCurrentColor);\n"
+                       "    m_answer = connect(popup, &TavikColorPopup::colorChanged, fill,\n"
+                       "                       [=](const QColor &chosen) {\n"
+                       "        if (chosen.isValid()) // a half-typed hexadecimal value is not\n"
+                       "            fill->setCurrentColor(chosen);\n"
+                       "    });\n"
                        "    popup->showColorPopup(pos, color);\n"
                        "});"));
 }

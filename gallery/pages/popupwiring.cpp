@@ -14,9 +14,7 @@ void PopupWiring::serve(TavikColorButton *button)
 {
     connect(button, &TavikColorButton::showPopup, this,
             [this, button](const QPoint &pos, const QColor &color) {
-                disconnect(m_answer);
-                m_answer = connect(m_popup, &TavikColorPopup::colorChanged, button,
-                                   &TavikColorButton::setCurrentColor);
+                answerTo(button, [button](const QColor &chosen) { button->setCurrentColor(chosen); });
                 m_popup->showColorPopup(pos, color);
             });
 }
@@ -26,10 +24,18 @@ void PopupWiring::serve(TavikGradientBar *bar)
     connect(bar, &TavikGradientBar::colorPopupRequest, this,
             [this, bar](const QPoint &pos, const QColor &color) {
                 const bool isStart = bar->selectedSide() == TavikGradientBar::StartSide;
-                disconnect(m_answer);
-                m_answer =
-                    connect(m_popup, &TavikColorPopup::colorChanged, bar,
-                            isStart ? &TavikGradientBar::setStartColor : &TavikGradientBar::setEndColor);
+                answerTo(bar, [=](const QColor &chosen) {
+                    isStart ? bar->setStartColor(chosen) : bar->setEndColor(chosen);
+                });
                 m_popup->showColorPopup(pos, color);
             });
+}
+
+void PopupWiring::answerTo(QWidget *control, const std::function<void(const QColor &)> &take)
+{
+    disconnect(m_answer);
+    m_answer = connect(m_popup, &TavikColorPopup::colorChanged, control, [=](const QColor &chosen) {
+        if (chosen.isValid()) // a half-typed hexadecimal value is not
+            take(chosen);
+    });
 }

@@ -3,6 +3,10 @@
 
 #include <QObject>
 
+#include <functional>
+
+class QColor;
+class QWidget;
 class TavikColorButton;
 class TavikColorPopup;
 class TavikGradientBar;
@@ -25,6 +29,9 @@ public:
     TavikColorPopup *popup() const { return m_popup; }
 
 private:
+    /// From now on, until another control asks.
+    void answerTo(QWidget *control, const std::function<void(const QColor &)> &take);
+
     TavikColorPopup *m_popup;
     QMetaObject::Connection m_answer; // to the control that asked last
 };

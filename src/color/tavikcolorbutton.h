@@ -14,7 +14,10 @@
 /// auto *fill = new TavikColorButton(Qt::red, this);
 /// fill->setRemSize(6, 2);
 /// connect(fill, &TavikColorButton::showPopup, popup, &TavikColorPopup::showColorPopup);
-/// connect(popup, &TavikColorPopup::colorChanged, fill, &TavikColorButton::setCurrentColor);
+/// connect(popup, &TavikColorPopup::colorChanged, fill, [=](const QColor &color) {
+///     if (color.isValid()) // a half-typed hexadecimal value is not
+///         fill->setCurrentColor(color);
+/// });
 /// connect(fill, &TavikColorButton::colorChanged, shape, &Shape::setFill);
 /// \endcode
 ///

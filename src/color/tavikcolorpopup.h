@@ -27,7 +27,10 @@ class TavikLineEdit;
 /// \code
 /// auto *popup = new TavikColorPopup(this);
 /// connect(button, &TavikColorButton::showPopup, popup, &TavikColorPopup::showColorPopup);
-/// connect(popup, &TavikColorPopup::colorChanged, button, &TavikColorButton::setCurrentColor);
+/// connect(popup, &TavikColorPopup::colorChanged, button, [=](const QColor &color) {
+///     if (color.isValid()) // a half-typed hexadecimal value is not
+///         button->setCurrentColor(color);
+/// });
 /// \endcode
 ///
 /// Open it by showColorPopup(): show() alone gives neither the outline nor the colour. It closes on a press

@@ -14,6 +14,8 @@
 /// auto *bar = new TavikGradientBar(16.0, 2.0, this);   // 16 by 2 rem
 /// connect(bar, &TavikGradientBar::colorPopupRequest, popup, &TavikColorPopup::showColorPopup);
 /// connect(popup, &TavikColorPopup::colorChanged, bar, [=](const QColor &color) {
+///     if (!color.isValid()) // as a half-typed hexadecimal value
+///         return;
 ///     if (bar->selectedSide() == TavikGradientBar::StartSide)
 ///         bar->setStartColor(color);
 ///     else
