@@ -221,6 +221,17 @@ void TestContainers::expandableOpenHeight()
     panel.initAnimationStates();
     panel.expand();
     QCOMPARE(animationOf(panel)->endValue().toDouble(), 3.0);
+
+    // In the middle of a run, as in every new panel: the run goes on to where it was sent.
+    TavikExpandable made(QString(), 3.0);
+    made.updateExpandedHeight(10.0);
+    finish(made);
+    QCOMPARE(made.remExpandHeight(), 3.0);
+    TavikExpandable asked(QString(), 3.0);
+    asked.updateExpandedHeight(10.0);
+    asked.expand();
+    finish(asked);
+    QCOMPARE(asked.remExpandHeight(), 10.0);
 }
 
 void TestContainers::expandablePresses()

@@ -20,6 +20,10 @@ void TestDesigner::showsOurControls()
     form.alignGroup->addTextButton(QStringLiteral("Right"));
     form.buttons->addWidget(new TavikLabel(QStringLiteral("Two changes")));
     form.effects->setTitle(QStringLiteral("Effects"));
+    auto *shadow = new TavikCheckBox(QStringLiteral("Shadow"));
+    form.effects->addWidget(shadow);
+    form.effects->updateExpandedHeight(2.5);
+    form.effects->expand();
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
 
@@ -32,6 +36,8 @@ void TestDesigner::showsOurControls()
     const QStringList controls = QStringLiteral(TAVIK_CONTROLS).split(QLatin1Char(' '));
     for (const QString &control : controls)
         QVERIFY2(shown.contains(control), qPrintable(control));
+    QTRY_COMPARE(form.effects->remExpandHeight(), 2.5);
+    QVERIFY(shadow->visibleRegion().boundingRect().size() == shadow->size());
     QCOMPARE(form.nameEdit->placeholderText(), QStringLiteral("Layer 1"));
     QCOMPARE(form.opacityBox->value(), 80);
     QVERIFY(form.visibleBox->isChecked());

@@ -24,7 +24,7 @@ class TavikLabel;
 ///
 /// A press with any mouse button on the title row, or a click on its arrow, toggles the panel. While the
 /// content area is too low, content with fixed sizes is cut off and other content is squeezed. A new panel
-/// runs its animation once, to the state it is made in.
+/// runs its animation once, to the state and the height that it is made with.
 class TAVIK_EXPORT TavikExpandable : public QWidget
 {
     Q_OBJECT
@@ -43,7 +43,7 @@ public:
     /// An open panel with a title and no content height yet: see updateExpandedHeight().
     TavikExpandable(const QString &title, QWidget *parent);
 
-    /// An open panel without title and content height, as Qt Designer makes it.
+    /// An open panel without title and content height, as Qt Designer makes it: see updateExpandedHeight().
     explicit TavikExpandable(QWidget *parent = nullptr);
 
     ~TavikExpandable() override;
@@ -74,8 +74,16 @@ public:
     /// does this at each of its steps; to change the open height, use updateExpandedHeight().
     void setRemExpandHeight(double rem);
 
-    /// Sets the open height of the content, in rem. An open panel takes it at once and emits
+    /// Sets the open height of the content, in rem. An open panel at rest takes it at once and emits
     /// remExpandHeightChanged(); a closed one opens to it next time.
+    ///
+    /// A run that is under way knows nothing of it: it goes on to the height that it was started with, and
+    /// leaves the panel there. A new panel runs for its first half second. Ask for a run of your own, and the
+    /// panel opens to the new height in any case:
+    /// \code
+    /// panel->updateExpandedHeight(8.0);
+    /// panel->expand();
+    /// \endcode
     void updateExpandedHeight(double rem);
 
     /// Makes the present height the open height.
