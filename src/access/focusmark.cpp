@@ -43,17 +43,33 @@ QWidget *marked(QWidget *focused)
     return keys ? keys->marked() : focused;
 }
 
+/// Deletes the mark when the library is unloaded while the application runs.
+struct Instance
+{
+    Instance() = default;
+    ~Instance() { delete mark; }
+    Q_DISABLE_COPY_MOVE(Instance)
+
+    QPointer<FocusMark> mark;
+} instance;
+
 } // namespace
 
-void FocusMark::install()
+FocusMark::~FocusMark()
 {
-    if (!instance())
-        new FocusMark(qApp);
+    delete m_frame; // it has the style, which goes now
+}
+
+FocusMark *FocusMark::install()
+{
+    if (!instance.mark)
+        instance.mark = new FocusMark(qApp);
+    return instance.mark;
 }
 
 void FocusMark::setKeysInUse(bool inUse)
 {
-    FocusMark *mark = instance();
+    FocusMark *mark = install();
     if (mark->m_keysInUse == inUse)
         return;
     mark->m_keysInUse = inUse;
@@ -66,11 +82,6 @@ FocusMark::FocusMark(QObject *parent)
 {
     m_style->setParent(this);
     connect(qApp, &QApplication::focusChanged, this, &FocusMark::update);
-}
-
-FocusMark *FocusMark::instance()
-{
-    return qApp->findChild<FocusMark *>(QString(), Qt::FindDirectChildrenOnly);
 }
 
 void FocusMark::update()

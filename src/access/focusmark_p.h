@@ -5,14 +5,16 @@
 #include <QPointer>
 
 /// The frame around what has the focus, wherever there is keyboard access. It shows from the first key on,
-/// and until the mouse is used.
+/// and until the mouse is used. It goes with the application, or with the library if that is unloaded before.
 class FocusMark : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Makes the one mark of the application, unless there is one.
-    static void install();
+    ~FocusMark() override;
+
+    /// The one mark of the application, made where there is none yet.
+    static FocusMark *install();
 
     /// Tells the mark what is used: keys, or the mouse.
     static void setKeysInUse(bool inUse);
@@ -20,7 +22,6 @@ public:
 private:
     explicit FocusMark(QObject *parent);
 
-    static FocusMark *instance();
     void update();
 
     bool m_keysInUse = false;

@@ -45,6 +45,8 @@ void giveKeys(QWidget *widget)
 KeyboardFilter::KeyboardFilter(QWidget *root)
     : QObject(root)
 {
+    // The root may outlive the library, this object must not.
+    connect(FocusMark::install(), &QObject::destroyed, this, [this] { delete this; });
     cover(root);
 }
 
