@@ -15,10 +15,12 @@ constexpr int farStep = 10; // pixels
 
 SamplerKeys::SamplerKeys(Screenshot *sampler)
     : QObject(sampler)
-    , m_pos(QCursor::pos())
+    , m_pos(sampler->mapFromGlobal(QCursor::pos()))
 {
     sampler->installEventFilter(this);
     sampler->activateWindow();
+    // It was placed as if its screen began where the desktop does.
+    Q_EMIT sampler->cursorPosChange(m_pos.x(), m_pos.y());
 }
 
 bool SamplerKeys::eventFilter(QObject *watched, QEvent *event)

@@ -23,7 +23,7 @@ private:
     bool moveBy(int right, int down, bool isFar);
     bool pick();
 
-    QPoint m_pos;
+    QPoint m_pos; // in the sampler's window
 };
 
 #endif
