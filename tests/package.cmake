@@ -25,11 +25,16 @@ function(configure_and_build name source)
     run("${CMAKE_COMMAND}" --build "${SCRATCH}/${name}")
 endfunction()
 
-# The library, with everything out of reach that only tests and benchmarks may look for.
-configure_and_build(library "${SOURCE}" -D BUILD_TESTING=OFF -D TAVIK_BUILD_GALLERY=OFF
-    -D TAVIK_BUILD_EXAMPLES=OFF
-    -D CMAKE_DISABLE_FIND_PACKAGE_Qt5Test=ON -D CMAKE_DISABLE_FIND_PACKAGE_benchmark=ON)
-run("${CMAKE_COMMAND}" --install "${SCRATCH}/library" --prefix "${prefix}")
+# The library, shared and static, with everything out of reach that only tests and benchmarks may look for. All
+# its sources are built as one; by add_subdirectory they are built one by one.
+foreach(shared IN ITEMS ON OFF)
+    configure_and_build(library-${shared} "${SOURCE}" -D BUILD_SHARED_LIBS=${shared}
+        -D CMAKE_UNITY_BUILD=ON -D CMAKE_UNITY_BUILD_BATCH_SIZE=0
+        -D BUILD_TESTING=OFF -D TAVIK_BUILD_GALLERY=OFF -D TAVIK_BUILD_EXAMPLES=OFF
+        -D CMAKE_DISABLE_FIND_PACKAGE_Qt5Test=ON -D CMAKE_DISABLE_FIND_PACKAGE_benchmark=ON)
+endforeach()
+run("${CMAKE_COMMAND}" --install "${SCRATCH}/library-ON" --prefix "${prefix}")
+run("${CMAKE_COMMAND}" --install "${SCRATCH}/library-OFF" --prefix "${SCRATCH}/static")
 
 file(GLOB_RECURSE installed RELATIVE "${prefix}" "${prefix}/*")
 if(NOT installed MATCHES "libTavik\\.so\\.0\\.1(;|$)" OR installed MATCHES "_p\\.h")
@@ -48,6 +53,8 @@ endif()
 
 configure_and_build(by-find-package "${consumer}" -D CMAKE_PREFIX_PATH=${prefix} -D WAY=find_package)
 run("${SCRATCH}/by-find-package/consumer")
+configure_and_build(static-by-find-package "${consumer}" -D CMAKE_PREFIX_PATH=${SCRATCH}/static -D WAY=find_package)
+run("${SCRATCH}/static-by-find-package/consumer")
 # Qt's Linguist tools are no condition.
 configure_and_build(by-add-subdirectory "${consumer}" -D TAVIK_SOURCE=${SOURCE} -D WAY=add_subdirectory
     -D CMAKE_DISABLE_FIND_PACKAGE_Qt5LinguistTools=ON)
@@ -66,12 +73,16 @@ if(result EQUAL 0)
     message(FATAL_ERROR "find_package(Tavik 99.0) was satisfied")
 endif()
 
-get_filename_component(library_directory "${library}" DIRECTORY)
-set(ENV{PKG_CONFIG_PATH} "${library_directory}/pkgconfig")
-set(ENV{LD_LIBRARY_PATH} "${library_directory}")
-run(pkg-config --cflags --libs Tavik)
-separate_arguments(flags UNIX_COMMAND "${output}")
-run(c++ -std=c++17 -fPIC "${consumer}/main.cpp" -o "${SCRATCH}/by-pkg-config" ${flags})
-run("${SCRATCH}/by-pkg-config")
+foreach(folder IN ITEMS "${prefix}" "${SCRATCH}/static")
+    file(GLOB_RECURSE module "${folder}/*/Tavik.pc")
+    get_filename_component(modules "${module}" DIRECTORY)
+    set(ENV{PKG_CONFIG_PATH} "${modules}")
+    set(ENV{LD_LIBRARY_PATH} "${modules}/..")
+    run(pkg-config --cflags --libs Tavik)
+    separate_arguments(flags UNIX_COMMAND "${output}")
+    run(c++ -std=c++17 -fPIC "${consumer}/main.cpp" -o "${SCRATCH}/by-pkg-config" ${flags})
+    run("${SCRATCH}/by-pkg-config")
+endforeach()
+unset(ENV{LD_LIBRARY_PATH})
 
 include("${CMAKE_CURRENT_LIST_DIR}/docblocks.cmake")

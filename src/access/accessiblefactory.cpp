@@ -13,10 +13,10 @@
 #include "tavikexpandable.h"
 #include "tavikgradientbar.h"
 
-namespace {
-
 /// The toolkit asks for each class of an object, beginning with the most derived one.
-QAccessibleInterface *makeInterface(const QString &className, QObject *object)
+///
+/// It has a plain name, by which the linker is told to take it from a static library.
+extern "C" QAccessibleInterface *tavikAccessibleInterface(const QString &className, QObject *object)
 {
     const auto is = [&](const QMetaObject &meta) { return className == QLatin1String(meta.className()); };
     if (is(TavikColorPicker::staticMetaObject))
@@ -36,10 +36,12 @@ QAccessibleInterface *makeInterface(const QString &className, QObject *object)
     return nullptr;
 }
 
+namespace {
+
 const struct Installation
 {
-    Installation() { QAccessible::installFactory(makeInterface); }
-    ~Installation() { QAccessible::removeFactory(makeInterface); }
+    Installation() { QAccessible::installFactory(tavikAccessibleInterface); }
+    ~Installation() { QAccessible::removeFactory(tavikAccessibleInterface); }
 } installation;
 
 } // namespace

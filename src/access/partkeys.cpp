@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr int page = 10;
+constexpr int pageStep = 10;
 
 } // namespace
 
@@ -91,10 +91,10 @@ bool PartKeys::moveHandle(int key)
         m_parts->setValue(m_current, value + 1);
         return true;
     case Qt::Key_PageDown:
-        m_parts->setValue(m_current, value - page);
+        m_parts->setValue(m_current, value - pageStep);
         return true;
     case Qt::Key_PageUp:
-        m_parts->setValue(m_current, value + page);
+        m_parts->setValue(m_current, value + pageStep);
         return true;
     case Qt::Key_Home:
         m_parts->setValue(m_current, 0);

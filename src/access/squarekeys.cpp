@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr int page = 10; // percent
+constexpr int pagePercent = 10;
 
 /// A position moved on to the next whole percent of the length, and by at least one pixel.
 int moved(int position, int length, int percent)
@@ -40,9 +40,9 @@ bool SquareKeys::press(const QKeyEvent &key)
     case Qt::Key_Down:
         return (this->*arrow)(0, 1);
     case Qt::Key_PageUp:
-        return isControl ? moveByPercent(page, 0) : moveByPercent(0, -page);
+        return isControl ? moveByPercent(pagePercent, 0) : moveByPercent(0, -pagePercent);
     case Qt::Key_PageDown:
-        return isControl ? moveByPercent(-page, 0) : moveByPercent(0, page);
+        return isControl ? moveByPercent(-pagePercent, 0) : moveByPercent(0, pagePercent);
     case Qt::Key_Home:
         return jump(isControl, false);
     case Qt::Key_End:

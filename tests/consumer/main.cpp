@@ -7,6 +7,7 @@
 #include <Tavik/TavikLabel>
 #include <Tavik/TypographyTool>
 
+#include <QAccessible>
 #include <QApplication>
 #include <QVBoxLayout>
 
@@ -18,11 +19,15 @@ int main(int argc, char **argv)
     auto *column = new QVBoxLayout(&window);
     column->addWidget(new TavikLabel("A label", &window));
     column->addWidget(new TavikButton("A button", TavikButton::Outline, &window));
+    auto *palette = new TavikColorWell(&window);
+    column->addWidget(palette);
     window.show();
     QCoreApplication::processEvents();
 
+    // Pictures and accessible interfaces are there without a call.
     const bool complete = LenConverter::m_rem > 0 && IconTool::alphaTexture().width() == 16 &&
                           !TypographyTool::defualtFontSz().isEmpty() && Horizontal == 1 &&
-                          column->count() == 2;
+                          column->count() == 3 &&
+                          QAccessible::queryAccessibleInterface(palette)->childCount() == 16;
     return complete ? 0 : 1;
 }
