@@ -15,6 +15,8 @@
 #include <QScrollBar>
 #include <QTemporaryDir>
 
+#include <sys/stat.h>
+
 #include <cmath>
 #include <memory>
 
@@ -35,6 +37,7 @@ private Q_SLOTS:
     void scrollArea();
     void imageList();
     void imageListImages();
+    void imageListRefuses();
 };
 
 namespace {
@@ -353,6 +356,30 @@ void TestContainers::imageListImages()
     const QColor mixed = icon(1).pixmap(60, 60).toImage().pixelColor(30, 30);
     QVERIFY(mixed.red() > 60 && mixed.blue() > 60); // of red and blue points, smoothly
     QVERIFY(icon(2).isNull());
+}
+
+void TestContainers::imageListRefuses()
+{
+    const QTemporaryDir directory;
+    const auto path = [&](const char *name) { return directory.filePath(QLatin1String(name)); };
+    QImage image(16384, 4097, QImage::Format_Grayscale8); // a line more than what is read whole
+    image.fill(100);
+    for (const char *name : {"large.png", "large.jpg"})
+        QVERIFY(image.save(path(name)));
+    QCOMPARE(mkfifo(QFile::encodeName(path("pipe.png")).constData(), 0600), 0);
+
+    TavikImageList list;
+    list.setIconRemSz(5, 5);
+    list.addImage(path("large.jpg"));
+    QVERIFY(qAbs(list.item(0)->icon().pixmap(60).toImage().pixelColor(30, 30).red() - 100) < 3);
+    list.addImage(path("large.png"));
+    list.addImage(path("pipe.png"));
+    list.setIconRemSz(1e9, 1e9);
+    list.addImage(QStringLiteral(":/Color/images/color.svg"));
+    for (int row = 1; row < 4; ++row)
+        QVERIFY(list.item(row)->icon().isNull());
+    list.show();
+    list.grab();
 }
 
 TAVIK_TEST_MAIN(TestContainers)

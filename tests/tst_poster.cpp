@@ -18,6 +18,8 @@
 #include <QScrollBar>
 #include <QTemporaryDir>
 
+#include <sys/stat.h>
+
 class TestPoster : public TestCase
 {
     Q_OBJECT
@@ -424,6 +426,12 @@ void TestPoster::aBrokenFileLosesNothing()
     PosterWindow window;
     window.addPhotographs({good, photograph});
     QVERIFY(window.message().contains("broken.png"_s));
+    const QString pipe = directory.filePath("pipe"_s);
+    QCOMPARE(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    window.addPhotographs({pipe});
+    QVERIFY(window.message().contains("pipe"_s));
+    window.openSettings(pipe);
+    QVERIFY(window.message().contains("pipe"_s));
     QCOMPARE(window.poster()->settings().photograph, good);
     window.openSettings(settings);
     QVERIFY(window.message().contains("poster.json"_s));

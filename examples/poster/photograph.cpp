@@ -10,6 +10,9 @@ namespace {
 
 const QLatin1String ownPrefix("own:");
 
+// What a photograph may hold in memory: four bytes each.
+constexpr qint64 mostMegapixels = 128;
+
 } // namespace
 
 Photograph::Photograph(const QString &name)
@@ -23,12 +26,23 @@ Photograph::Photograph(const QString &name)
         }
         return;
     }
-    QImageReader reader(name);
+    const QString reason = read(name);
+    if (!reason.isEmpty())
+        m_error = tr("The photograph %1 can't be read: %2.").arg(QDir::toNativeSeparators(name), reason);
+}
+
+/// Returns why it can't be read.
+QString Photograph::read(const QString &file)
+{
+    if (QFileInfo::exists(file) && !QFileInfo(file).isFile())
+        return tr("it is no file"); // a pipe would never end
+    QImageReader reader(file);
     reader.setAutoTransform(true); // a camera held upright says so in its file
+    const QSize size = reader.size();
+    if (qint64(size.width()) * size.height() > mostMegapixels * 1000000)
+        return tr("it has more than %1 megapixels").arg(mostMegapixels);
     m_image = reader.read();
-    if (m_image.isNull())
-        m_error = tr("The photograph %1 can't be read: %2.")
-                      .arg(QDir::toNativeSeparators(name), reader.errorString());
+    return m_image.isNull() ? reader.errorString() : QString();
 }
 
 QString Photograph::title(const QString &name)

@@ -37,6 +37,8 @@ public:
     QImage cover(const QSize &size) const;
 
 private:
+    QString read(const QString &file);
+
     QString m_name;
     QString m_landscape; // one of our own is painted when its size is known
     QImage m_image;

@@ -17,6 +17,8 @@ SettingsFile::SettingsFile(const QString &path)
 
 QString SettingsFile::read(PosterSettings &settings) const
 {
+    if (QFileInfo::exists(m_path) && !QFileInfo(m_path).isFile())
+        return fault(tr("it is no file")); // a pipe would never end
     QFile file(m_path);
     if (!file.open(QIODevice::ReadOnly))
         return fault(file.errorString());

@@ -2,6 +2,7 @@
 
 #include "lengths_p.h"
 #include "sheet_p.h"
+#include "thumbnail_p.h"
 
 #include <QScrollBar>
 
@@ -36,12 +37,8 @@ void TavikImageList::setIconRemSz(const double &remWidth, const double &remHeigh
 void TavikImageList::addImage(const QString &fileName)
 {
     auto *item = new QListWidgetItem(this);
-    QImage image(fileName);
-    if (!image.isNull()) {
-        // The icon size, or what the toolkit takes while there is none.
-        const QSize size = viewOptions().decorationSize;
-        image = image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    }
+    // The icon size, or what the toolkit takes while there is none.
+    const QImage image = Thumbnail::read(fileName, viewOptions().decorationSize);
     item->setData(Qt::DecorationRole, QIcon(QPixmap::fromImage(image)));
 }
 

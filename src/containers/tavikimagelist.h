@@ -33,6 +33,11 @@ public:
     /// Adds an image file at the end, stretched to the icon size whatever its proportions are; before an
     /// icon size is set, to the size in which the toolkit shows icons in a grid. A file that can't be read
     /// adds an empty tile.
+    ///
+    /// So does one that would hold the application up: what is no regular file, as a pipe or a device; a picture
+    /// of more than 67 million pixels (2^26; the largest screens have half of that), unless its format can be
+    /// read at the icon size, as JPEG can, which then gives slightly other pixels and ends at 2^28; and any
+    /// picture while the icon size has more than 2^26 pixels.
     void addImage(const QString &fileName);
 
 protected:
