@@ -1,5 +1,7 @@
 #include "support.h"
 
+#include "surroundings.h"
+
 #include <QAbstractButton>
 #include <QLabel>
 
@@ -93,6 +95,7 @@ void TestCase::handleMessage(QtMsgType type, const QMessageLogContext &context, 
 
 void Support::preferHeadless()
 {
+    forgetSurroundings();
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
 }

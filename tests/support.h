@@ -39,7 +39,7 @@ namespace Support {
 /// The five values that one rem can have, in pixels.
 constexpr int rems[] = {10, 12, 18, 24, 30};
 
-/// Makes the process headless, unless the caller's environment names a platform.
+/// Makes the process headless, unless the caller's environment names a platform, and forgets the surroundings.
 void preferHeadless();
 
 /// The exact sheet that tests/sheets/<name>.qss holds.

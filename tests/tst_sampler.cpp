@@ -324,13 +324,17 @@ int runOnPlatform(int argc, char **argv)
 
 } // namespace
 
-/// Runs the tests on an X server of their own, or on the headless platform if the environment asks for it.
+/// Runs the tests on an X server of their own, at the scale TAVIK_TEST_SCALE, or on the headless platform: as the
+/// environment asks for it.
 int main(int argc, char **argv)
 {
-    if (qgetenv("QT_QPA_PLATFORM") == "offscreen")
+    if (qgetenv("QT_QPA_PLATFORM") == "offscreen") {
+        forgetSurroundings();
         return runOnPlatform(argc, argv);
+    }
 
     const XServer server(1280, 1024);
+    qputenv("QT_SCALE_FACTOR", qgetenv("TAVIK_TEST_SCALE"));
     return runOnPlatform(argc, argv);
 }
 #include "tst_sampler.moc"

@@ -1,10 +1,12 @@
 #ifndef TAVIK_TESTS_XSERVER_H
 #define TAVIK_TESTS_XSERVER_H
 
+#include "surroundings.h"
+
 #include <QCoreApplication>
 #include <QProcess>
 
-/// An X server of its own at a free display, with one screen and nobody watching. Applications that start
+/// An X server of its own at a free display, with one screen, no scale and nobody watching. Applications that start
 /// from here while it lives run on it.
 class XServer
 {
@@ -12,6 +14,7 @@ public:
     /// Starts a server with a screen of this size in pixels, and ends the process if it can't.
     XServer(int width, int height)
     {
+        forgetSurroundings();
         const QString screen = QStringLiteral("%1x%2x24").arg(width).arg(height);
         m_process.start(QStringLiteral("Xvfb"),
                         {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
