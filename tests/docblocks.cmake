@@ -7,6 +7,17 @@
 set(start "${SOURCE}/docs/start.md")
 set(blocks "${SCRATCH}/blocks")
 
+# write_block(<file> <text>): leaves a file as old as it is if it says the same already.
+function(write_block file text)
+    set(before "")
+    if(EXISTS "${file}")
+        file(READ "${file}" before)
+    endif()
+    if(NOT text STREQUAL before)
+        file(WRITE "${file}" "${text}")
+    endif()
+endfunction()
+
 # code_blocks(<page> <language> <result>): writes each block of a language to a file of its own.
 function(code_blocks page language result)
     file(READ "${page}" rest)
@@ -22,7 +33,7 @@ function(code_blocks page language result)
         string(SUBSTRING "${rest}" 0 ${end} block)
         list(LENGTH files number)
         set(file "${blocks}/${name}-${number}.${language}")
-        file(WRITE "${file}" "${block}\n")
+        write_block("${file}" "${block}\n")
         list(APPEND files "${file}")
         string(FIND "${rest}" "${fence}" begin)
     endwhile()
@@ -80,7 +91,7 @@ foreach(page IN LISTS pages ITEMS "${SOURCE}/README.md")
     endforeach()
 endforeach()
 
-file(WRITE "${blocks}/fragments.cpp" "#include <Tavik/Tavik>
+write_block("${blocks}/fragments.cpp" "#include <Tavik/Tavik>
 #include <QtWidgets>
 #include <cstdio>
 ${includes}${classes}

@@ -6,7 +6,8 @@ cmake_minimum_required(VERSION 3.18)
 set(prefix "${SCRATCH}/prefix")
 set(consumer "${CMAKE_CURRENT_LIST_DIR}/consumer")
 set(ENV{QT_QPA_PLATFORM} offscreen)
-file(REMOVE_RECURSE "${SCRATCH}")
+# What is installed is always fresh; what is built is built again where something has changed.
+file(REMOVE_RECURSE "${prefix}" "${SCRATCH}/static")
 
 function(run)
     execute_process(COMMAND ${ARGN} RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output)

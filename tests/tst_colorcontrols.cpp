@@ -184,7 +184,7 @@ void TestColorControls::wellShowsAndSelects()
     const QImage picture = Support::picture(&well);
     QSignalSpy selected(&well, &TavikColorWell::colorSelected);
     for (int i = 0; i < 15; ++i) {
-        const QColor color(QLatin1String(start[i]));
+        const QColor color{QLatin1String(start[i])}; // in parentheses it may read as a function
         QCOMPARE(cell(picture, i), color);
         const QPoint corner(i % 8 * 23 + 1, i / 8 * 23 + 1);
         Support::press(&well, corner, i % 2 != 0 ? Qt::RightButton : Qt::LeftButton);
