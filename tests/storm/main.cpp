@@ -28,8 +28,7 @@ public:
             return true;
         if (!receiver->isWidgetType())
             return QApplication::notify(receiver, event);
-        const bool isHiding = event->type() == QEvent::Hide || event->type() == QEvent::Close;
-        const Busy busy(receiver, Busy::Buttons, isHiding);
+        const Busy busy(receiver, Busy::Buttons, event->type());
         return QApplication::notify(receiver, event);
     }
 

@@ -64,7 +64,12 @@ Deed endSampler(Random &random)
         {"Alt", key(Qt::Key_Alt)},
         {"Escape", key(Qt::Key_Escape)},
         {"Return", key(Qt::Key_Return)},
-        {"move", [](QWidget *window, QPoint pos) { QTest::mouseMove(window, pos); }},
+        {"move",
+         [](QWidget *window, QPoint pos) {
+             // Not by the test library, which then processes all events.
+             QMouseEvent event(QEvent::MouseMove, pos, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+             QApplication::sendEvent(window, &event);
+         }},
         {"close", [](QWidget *window, QPoint) { window->close(); }},
         {"show", [](QWidget *window, QPoint) { window->show(); }},
         {"deleteLater", [](QWidget *window, QPoint) { window->deleteLater(); }},
