@@ -52,30 +52,23 @@ Deed key(Random &random)
     const int slot = random.below(Stage::slotCount());
     const int child = random.between(-1, 30);
     const Key key(random);
-    const QString text = QStringLiteral("%1 child %2 key 0x%3 modifiers 0x%4")
-                             .arg(QLatin1String(Stage::className(slot)))
-                             .arg(child)
-                             .arg(key.key, 0, 16)
-                             .arg(int(key.modifier), 0, 16);
-    return {text, [=](Stage &stage) {
-                const QPointer<QWidget> receiver = receiverIn(stage.at(slot), child);
-                for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
-                    if (!receiver)
-                        return;
-                    QKeyEvent event(type, key.key, key.modifier, key.typed());
-                    QSpontaneKeyEvent::setSpontaneous(&event);
-                    qApp->notify(receiver, &event);
-                }
-            }};
+    return deedTo(slot, [=](Stage &, QWidget *control) {
+        const QPointer<QWidget> receiver = receiverIn(control, child);
+        for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+            if (!receiver)
+                return;
+            QKeyEvent event(type, key.key, key.modifier, key.typed());
+            QSpontaneKeyEvent::setSpontaneous(&event);
+            qApp->notify(receiver, &event);
+        }
+    });
 }
 
 /// By way of the platform: to what has the focus, or to the open popup.
 Deed platformKey(Random &random)
 {
     const Key key(random);
-    const QString text =
-        QStringLiteral("focus key 0x%1 modifiers 0x%2").arg(key.key, 0, 16).arg(int(key.modifier), 0, 16);
-    return {text, [=](Stage &stage) {
+    return {{}, [=](Stage &stage) {
                 for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
                     qt_handleKeyEvent(stage.window()->windowHandle(), type, key.key, key.modifier,
                                       key.typed());
@@ -87,23 +80,19 @@ Deed commitText(Random &random)
 {
     const int slot = random.below(Stage::slotCount());
     const int child = random.between(-1, 30);
-    const auto argument = Wild::draw<QString>(random);
-    const QString text = QStringLiteral("%1 child %2 %3")
-                             .arg(QLatin1String(Stage::className(slot)))
-                             .arg(child)
-                             .arg(argument.text);
-    return {text, [=](Stage &stage) {
-                QInputMethodEvent event(argument.value.left(2), {});
-                event.setCommitString(argument.value, -1, 1);
-                QApplication::sendEvent(receiverIn(stage.at(slot), child), &event);
-            }};
+    const QString text = Wild::text(random);
+    return deedTo(slot, [=](Stage &, QWidget *control) {
+        QInputMethodEvent event(text.left(2), {});
+        event.setCommitString(text, -1, 1);
+        QApplication::sendEvent(receiverIn(control, child), &event);
+    });
 }
 
 Deed paste(Random &random)
 {
-    const auto argument = Wild::draw<QString>(random);
-    return {argument.text, [=](Stage &stage) {
-                QGuiApplication::clipboard()->setText(argument.value);
+    const QString text = Wild::text(random);
+    return {{}, [=](Stage &stage) {
+                QGuiApplication::clipboard()->setText(text);
                 QWidget *focused = QApplication::focusWidget();
                 QWidget *receiver = focused ? focused : stage.window();
                 QKeyEvent event(QEvent::KeyPress, Qt::Key_V, Qt::ControlModifier);
@@ -116,20 +105,15 @@ Deed focus(Random &random)
     const int slot = random.below(Stage::slotCount());
     const int child = random.between(-1, 30);
     const bool takes = !random.oneIn(4);
-    const QString text = QStringLiteral("%1 child %2 %3")
-                             .arg(QLatin1String(Stage::className(slot)))
-                             .arg(child)
-                             .arg(QLatin1String(takes ? "takes" : "loses"));
-    return {
-        text, [=](Stage &stage) {
-            QWidget *receiver = receiverIn(stage.at(slot), child);
-            if (qobject_cast<QFocusFrame *>(receiver))
-                return; // it marks what has the focus, and goes in the middle of the change if it is that itself
-            if (takes)
-                receiver->setFocus(Qt::TabFocusReason);
-            else
-                receiver->clearFocus();
-        }};
+    return deedTo(slot, [=](Stage &, QWidget *control) {
+        QWidget *receiver = receiverIn(control, child);
+        if (qobject_cast<QFocusFrame *>(receiver))
+            return; // it marks what has the focus, and goes in the middle of the change if it is that itself
+        if (takes)
+            receiver->setFocus(Qt::TabFocusReason);
+        else
+            receiver->clearFocus();
+    });
 }
 
 } // namespace
