@@ -78,12 +78,11 @@ Deed assist(Random &random)
 
 } // namespace
 
-const std::vector<Action> &Actions::access()
+std::vector<Action> Actions::access()
 {
-    static const std::vector<Action> actions = {
+    return {
         {"keyboardAccess", 1, keyboardAccess},
         {"readAloud", 6, readAloud},
         {"assist", 12, assist},
     };
-    return actions;
 }

@@ -33,12 +33,12 @@ struct Action
 /// All of them, by family.
 namespace Actions {
 
-const std::vector<Action> &pointer();   // pointer.cpp
-const std::vector<Action> &keyboard();  // keyboard.cpp
-const std::vector<Action> &setters();   // setters.cpp
-const std::vector<Action> &windows();   // windows.cpp
-const std::vector<Action> &lifetimes(); // lifetimes.cpp
-const std::vector<Action> &access();    // access.cpp
+std::vector<Action> pointer();   // pointer.cpp
+std::vector<Action> keyboard();  // keyboard.cpp
+std::vector<Action> setters();   // setters.cpp
+std::vector<Action> windows();   // windows.cpp
+std::vector<Action> lifetimes(); // lifetimes.cpp
+std::vector<Action> access();    // access.cpp
 
 /// A step of any kind, chosen by weight.
 Deed any(Random &random);

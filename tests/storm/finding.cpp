@@ -43,9 +43,9 @@ void require(bool holds, const char *what)
 
 void checkGroup(TavikButtonGroup *group)
 {
-    const auto *buttons = group->findChild<QButtonGroup *>();
     const int id = group->checkedId();
-    require(id == -1 || buttons->button(id), "The checked id is that of no button");
+    require(id == -1 || group->findChild<QButtonGroup *>()->button(id),
+            "The checked id is that of no button");
     require(!group->isNoButtonChecked() || id == -1, "No button is checked, and yet there is a checked id");
 }
 

@@ -35,16 +35,13 @@ struct Key
         : key(random.pick(keys))
         , modifier(random.pick(modifiers))
     {
-    }
-
-    QString typed() const
-    {
-        const bool isSign = key >= Qt::Key_Space && key <= Qt::Key_AsciiTilde;
-        return isSign ? QString(QChar(key)).toLower() : QString();
+        if (key >= Qt::Key_Space && key <= Qt::Key_AsciiTilde)
+            typed = QString(QChar(key)).toLower();
     }
 
     Qt::Key key;
     Qt::KeyboardModifiers modifier;
+    QString typed;
 };
 
 Deed key(Random &random)
@@ -57,7 +54,7 @@ Deed key(Random &random)
         for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
             if (!receiver)
                 return;
-            QKeyEvent event(type, key.key, key.modifier, key.typed());
+            QKeyEvent event(type, key.key, key.modifier, key.typed);
             QSpontaneKeyEvent::setSpontaneous(&event);
             qApp->notify(receiver, &event);
         }
@@ -71,7 +68,7 @@ Deed platformKey(Random &random)
     return {{}, [=](Stage &stage) {
                 for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
                     qt_handleKeyEvent(stage.window()->windowHandle(), type, key.key, key.modifier,
-                                      key.typed());
+                                      key.typed);
                 }
             }};
 }
@@ -118,14 +115,13 @@ Deed focus(Random &random)
 
 } // namespace
 
-const std::vector<Action> &Actions::keyboard()
+std::vector<Action> Actions::keyboard()
 {
-    static const std::vector<Action> actions = {
+    return {
         {"key", 25, key},
         {"platformKey", 10, platformKey},
         {"commitText", 6, commitText},
         {"paste", 4, paste},
         {"focus", 10, focus},
     };
-    return actions;
 }

@@ -35,37 +35,26 @@ struct Constructor
     std::function<Make(Random &)> draw;
 };
 
-/// A constructor by the types of its arguments, of which the last ones may be given; the parent comes last.
-template <class Class, class... Arguments, class... Given>
-Constructor constructor(Given... given)
+/// Makes a control from a parent and arguments of these types.
+template <class Class, class... Arguments, class Function>
+Constructor making(Function function)
 {
     return {Class::staticMetaObject.className(), [=](Random &random) -> Make {
                 // Braces, because only there the order of drawing is fixed.
                 const std::tuple<Arguments...> drawn{Wild::draw<Arguments>(random)...};
                 return [=](QWidget *parent) {
-                    const auto make = [&](const auto &...argument) {
-                        return new Class(argument..., given..., parent);
-                    };
-                    return std::apply(make, drawn);
+                    return std::apply(function, std::tuple_cat(std::tuple(parent), drawn));
                 };
             }};
 }
 
-struct ImageButton : TavikButton
+/// A constructor by the types of its arguments, of which the last ones may be given; the parent comes last.
+template <class Class, class... Arguments, class... Given>
+Constructor constructor(Given... given)
 {
-    ImageButton(const QString &path, const QSize &size, bool hasLabel, QWidget *parent)
-        : TavikButton(path, size, hasLabel ? new TavikLabel : nullptr, parent)
-    {
-    }
-};
-
-struct RemSpinbox : TavikSpinbox
-{
-    RemSpinbox(int first, int last, int step, double rem, QWidget *parent)
-        : TavikSpinbox(first, last, step, parent, true, rem)
-    {
-    }
-};
+    return making<Class, Arguments...>(
+        [=](QWidget *parent, const auto &...argument) { return new Class(argument..., given..., parent); });
+}
 
 const std::vector<Constructor> &constructors()
 {
@@ -74,14 +63,20 @@ const std::vector<Constructor> &constructors()
         constructor<TavikButton, QString, TavikButton::Type>(),
         constructor<TavikButton, QIcon, QSizeF, QString, TavikButton::Type>(),
         constructor<TavikButton, QIcon, QSize, TavikButton::Type>(),
-        constructor<ImageButton, QString, QSize, bool>(),
+        making<TavikButton, QString, QSize, bool>(
+            [](QWidget *parent, const QString &path, const QSize &size, bool hasLabel) {
+                return new TavikButton(path, size, hasLabel ? new TavikLabel : nullptr, parent);
+            }),
         constructor<TavikButtonGroup, Direction, double, QSizeF, TavikButtonGroup::Mode, double>(),
         constructor<TavikButtonGroup, Direction, int, QSize, TavikButtonGroup::Mode, int>(),
         constructor<TavikCheckBox, QString>(),
         constructor<TavikRadioButton, QString>(),
         constructor<TavikLineEdit, QString, TavikLineEdit::Type, Qt::Alignment>(),
         constructor<TavikLineEdit, QString, TavikLineEdit::Type, Qt::Alignment>(), // six types
-        constructor<RemSpinbox, int, int, int, double>(),
+        making<TavikSpinbox, int, int, int, double>(
+            [](QWidget *parent, int first, int last, int step, double rem) {
+                return new TavikSpinbox(first, last, step, parent, true, rem);
+            }),
         constructor<TavikDoubleSpinbox, double, double, double>(),
         constructor<TavikComboBox, TavikComboBox::Type>(),
         constructor<TavikSlider, Pixels, Pixels>(),
@@ -241,11 +236,10 @@ Deed processEvents(Random &)
 
 } // namespace
 
-const std::vector<Action> &Actions::lifetimes()
+std::vector<Action> Actions::lifetimes()
 {
-    static const std::vector<Action> actions = {
+    return {
         {"destroy", 8, destroy}, {"construct", 10, construct},         {"nest", 5, nest},
         {"trap", 45, trap},      {"processEvents", 20, processEvents},
     };
-    return actions;
 }

@@ -138,9 +138,9 @@ Deed hover(Random &random)
 
 } // namespace
 
-const std::vector<Action> &Actions::pointer()
+std::vector<Action> Actions::pointer()
 {
-    static const std::vector<Action> actions = {
+    return {
         {"click", 30, atOnePlace<QEvent::MouseMove, QEvent::MouseButtonPress, QEvent::MouseButtonRelease>},
         {"doubleClick", 4, atOnePlace<QEvent::MouseButtonDblClick, QEvent::MouseButtonRelease>},
         {"press", 5, atOnePlace<QEvent::MouseButtonPress>},
@@ -150,5 +150,4 @@ const std::vector<Action> &Actions::pointer()
         {"wheel", 5, wheel},
         {"hover", 5, hover},
     };
-    return actions;
 }

@@ -143,8 +143,7 @@ Deed Actions::set(Random &random, const char *className)
     return deedOf(random.pick(own), random);
 }
 
-const std::vector<Action> &Actions::setters()
+std::vector<Action> Actions::setters()
 {
-    static const std::vector<Action> actions = {{"set", 60, ::set}};
-    return actions;
+    return {{"set", 60, ::set}};
 }

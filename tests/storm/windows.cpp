@@ -107,17 +107,13 @@ Deed window(Random &random)
     const int height = random.between(0, 700);
     return {QString::number(state), [=](Stage &stage) {
                 QWidget *window = stage.window();
-                switch (state) {
-                case 0:
+                if (state == 0) {
                     window->hide();
-                    break;
-                case 1:
+                } else if (state == 1) {
                     window->showMinimized();
-                    break;
-                case 2:
+                } else if (state == 2) {
                     window->resize(width, height);
-                    break;
-                default:
+                } else {
                     window->showNormal();
                     window->activateWindow();
                 }
@@ -140,11 +136,10 @@ Deed Actions::sampling(Random &random)
     return random.oneIn(2) ? sample(random) : endSampler(random);
 }
 
-const std::vector<Action> &Actions::windows()
+std::vector<Action> Actions::windows()
 {
-    static const std::vector<Action> actions = {
+    return {
         {"openPopup", 15, openPopup}, {"sample", 6, sample}, {"endSampler", 12, endSampler},
         {"treat", 30, treat},         {"window", 8, window}, {"closeActivePopup", 10, closeActivePopup},
     };
-    return actions;
 }
