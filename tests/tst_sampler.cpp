@@ -109,6 +109,7 @@ private Q_SLOTS:
     void picks();
     void othersDoNothing();
     void picksTheLastPaint();
+    void receiverDeletesIt();
     void pictureIsFrozen();
     void framePicture();
     void outsideThePicture();
@@ -190,6 +191,24 @@ void TestSampler::picksTheLastPaint()
     const Run run;
     QTest::mousePress(run.window.get(), Qt::LeftButton, {}, {600, 600});
     QCOMPARE(run.picked(), KnownPicture::colorAt({200, 200}));
+}
+
+/// As one does that sends all that was left for later.
+void TestSampler::receiverDeletesIt()
+{
+    for (const bool isPressed : {true, false}) {
+        QCursor::setPos(200, 200);
+        auto *sampler = startSampler().release();
+        const QPointer<Screenshot> left = sampler;
+        QVERIFY(QTest::qWaitForWindowExposed(sampler));
+        QCoreApplication::processEvents();
+        connect(sampler, &Screenshot::screenColor, this, [=] { delete sampler; });
+        if (isPressed)
+            QTest::mousePress(sampler, Qt::LeftButton);
+        else
+            QTest::keyPress(sampler, Qt::Key_Alt);
+        QVERIFY(!left);
+    }
 }
 
 void TestSampler::pictureIsFrozen()

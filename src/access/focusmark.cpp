@@ -10,6 +10,8 @@
 #include <QLineEdit>
 #include <QProxyStyle>
 
+#include <utility>
+
 namespace {
 
 /// Puts the frame over all others in the window or scroll area: beside a control that fills its parent there
@@ -87,7 +89,8 @@ FocusMark::FocusMark(QObject *parent)
 void FocusMark::update()
 {
     // Made anew for each widget: a frame asks the one that it is around, which may go before it.
-    delete m_frame;
+    // Forgotten before it goes: if it has the focus itself, its end changes the focus once more.
+    delete std::exchange(m_frame, nullptr).data();
     QWidget *focused = QApplication::focusWidget();
     if (!m_keysInUse || !focused || showsFocus(focused) || !KeyboardFilter::covers(focused))
         return;

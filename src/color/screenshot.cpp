@@ -6,6 +6,7 @@
 #include <QDesktopWidget>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPointer>
 #include <QScreen>
 
 Screenshot::Screenshot(QWidget *parent)
@@ -32,7 +33,8 @@ void Screenshot::mousePressEvent(QMouseEvent *event)
 {
     if (event->button() != Qt::LeftButton)
         return;
-    emitColor();
+    if (!emitColor())
+        return;
     m_paintMouseRect->setAttribute(Qt::WA_MouseTracking, false);
     close();
 }
@@ -51,8 +53,8 @@ void Screenshot::keyPressEvent(QKeyEvent *event)
         close();
         break;
     case Qt::Key_Alt:
-        emitColor();
-        close();
+        if (emitColor())
+            close();
         break;
     default:
         event->ignore();
@@ -108,9 +110,11 @@ void Screenshot::createPaintMouseRect(std::shared_ptr<QPixmap> pixmap)
     m_paintMouseRect->raise();
 }
 
-void Screenshot::emitColor()
+bool Screenshot::emitColor()
 {
+    const QPointer<Screenshot> self = this;
     const QColor color = m_paintMouseRect->m_color;
     if (color.isValid())
         Q_EMIT screenColor(color);
+    return self;
 }

@@ -36,7 +36,7 @@ Q_SIGNALS:
     void cursorPosChange(int x, int y);
 
     /// A colour was picked, always an opaque one. Emitted at most once, right before the window closes; the
-    /// receiver may call deleteLater() on it.
+    /// receiver may delete it.
     void screenColor(const QColor &color);
 
 protected:
@@ -51,7 +51,9 @@ private:
     std::shared_ptr<QPixmap> grabbedPixmap();
     std::shared_ptr<QPixmap> backgroundPixmap();
     void createPaintMouseRect(std::shared_ptr<QPixmap> pixmap);
-    void emitColor();
+
+    /// False if a receiver has deleted the sampler.
+    bool emitColor();
 
     // The frame is a child too. As the last field it is released first, and has left the children before
     // the base class deletes them.

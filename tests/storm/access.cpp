@@ -41,19 +41,16 @@ void read(QAccessibleInterface *interface)
 
 Deed keyboardAccess(Random &random)
 {
-    const int slot = random.below(Stage::slotCount());
-    return {QLatin1String(Stage::className(slot)),
-            [=](Stage &stage) { TavikKeyboardAccess::install(stage.at(slot)); }};
+    return deedTo(random.below(Stage::slotCount()),
+                  [](Stage &, QWidget *control) { TavikKeyboardAccess::install(control); });
 }
 
 Deed readAloud(Random &random)
 {
-    const int slot = random.below(Stage::slotCount());
-    return {QLatin1String(Stage::className(slot)), [=](Stage &stage) {
-                for (QAccessibleInterface *interface :
-                     tree(QAccessible::queryAccessibleInterface(stage.at(slot))))
-                    read(interface);
-            }};
+    return deedTo(random.below(Stage::slotCount()), [](Stage &, QWidget *control) {
+        for (QAccessibleInterface *interface : tree(QAccessible::queryAccessibleInterface(control)))
+            read(interface);
+    });
 }
 
 /// What a screen reader's user does with one of the things that were read.
@@ -62,37 +59,30 @@ Deed assist(Random &random)
     const int slot = random.below(Stage::slotCount());
     const int node = random.below(40);
     const int action = random.below(4);
-    const auto value = Wild::draw<int>(random);
-    const QString text = QStringLiteral("%1 node %2 action %3 value %4")
-                             .arg(QLatin1String(Stage::className(slot)))
-                             .arg(node)
-                             .arg(action)
-                             .arg(value.text);
-    return {text, [=](Stage &stage) {
-                QWidget *control = stage.at(slot);
-                const auto nodes = tree(QAccessible::queryAccessibleInterface(control));
-                QAccessibleInterface *interface = nodes.at(node % nodes.size());
-                QObject *object = interface->object();
-                // A part's signals are those of its control. An animated click needs its button to the end.
-                const Busy busy(object ? object : control, Busy::Nothing);
-                if (QAccessibleValueInterface *slider = interface->valueInterface()) {
-                    slider->setCurrentValue(value.value);
-                } else if (QAccessibleActionInterface *actions = interface->actionInterface()) {
-                    const QStringList names = actions->actionNames();
-                    if (!names.isEmpty())
-                        actions->doAction(names.at(action % names.size()));
-                }
-            }};
+    const int value = Wild::integer(random);
+    return deedTo(slot, [=](Stage &, QWidget *control) {
+        const auto nodes = tree(QAccessible::queryAccessibleInterface(control));
+        QAccessibleInterface *interface = nodes.at(node % nodes.size());
+        QObject *object = interface->object();
+        // A part's signals are those of its control. An animated click needs its button to the end.
+        const Busy busy(object ? object : control, Busy::Nothing);
+        if (QAccessibleValueInterface *slider = interface->valueInterface()) {
+            slider->setCurrentValue(value);
+        } else if (QAccessibleActionInterface *actions = interface->actionInterface()) {
+            const QStringList names = actions->actionNames();
+            if (!names.isEmpty())
+                actions->doAction(names.at(action % names.size()));
+        }
+    });
 }
 
 } // namespace
 
-const std::vector<Action> &Actions::access()
+std::vector<Action> Actions::access()
 {
-    static const std::vector<Action> actions = {
+    return {
         {"keyboardAccess", 1, keyboardAccess},
         {"readAloud", 6, readAloud},
         {"assist", 12, assist},
     };
-    return actions;
 }

@@ -1,5 +1,7 @@
 #include "actions.h"
 
+#include "stage.h"
+
 #include <numeric>
 
 namespace {
@@ -16,6 +18,12 @@ std::vector<Action> allActions()
 }
 
 } // namespace
+
+Deed deedTo(int slot, const std::function<void(Stage &, QWidget *)> &act, const QString &text)
+{
+    return {QLatin1String(Stage::className(slot)) + text,
+            [=](Stage &stage) { act(stage, stage.at(slot)); }};
+}
 
 Deed Actions::any(Random &random)
 {

@@ -8,15 +8,19 @@
 #include <functional>
 #include <vector>
 
+class QWidget;
 class Stage;
 
 /// What one step does: all that it needs was drawn beforehand, so that the log tells it before it is done, and
 /// tells the same whatever the stage looks like.
 struct Deed
 {
-    QString text; // what it is, to whom and with which arguments
+    QString text; // what it is and to whom: its arguments follow from seed and step
     std::function<void(Stage &)> act;
 };
+
+/// A step that is done to the control of a slot.
+Deed deedTo(int slot, const std::function<void(Stage &, QWidget *control)> &act, const QString &text = {});
 
 /// A kind of step.
 struct Action
@@ -29,12 +33,12 @@ struct Action
 /// All of them, by family.
 namespace Actions {
 
-const std::vector<Action> &pointer();   // pointer.cpp
-const std::vector<Action> &keyboard();  // keyboard.cpp
-const std::vector<Action> &setters();   // setters.cpp
-const std::vector<Action> &windows();   // windows.cpp
-const std::vector<Action> &lifetimes(); // lifetimes.cpp
-const std::vector<Action> &access();    // access.cpp
+std::vector<Action> pointer();   // pointer.cpp
+std::vector<Action> keyboard();  // keyboard.cpp
+std::vector<Action> setters();   // setters.cpp
+std::vector<Action> windows();   // windows.cpp
+std::vector<Action> lifetimes(); // lifetimes.cpp
+std::vector<Action> access();    // access.cpp
 
 /// A step of any kind, chosen by weight.
 Deed any(Random &random);

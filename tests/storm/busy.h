@@ -1,6 +1,7 @@
 #ifndef TAVIK_TESTS_STORM_BUSY_H
 #define TAVIK_TESTS_STORM_BUSY_H
 
+#include <QEvent>
 #include <QPointer>
 
 #include <vector>
@@ -19,9 +20,10 @@ public:
         Nothing,
     };
 
-    explicit Busy(QObject *object, Survival survival = Buttons, bool isHiding = false)
+    /// `event` is what the object is in the middle of, if that is an event.
+    explicit Busy(QObject *object, Survival survival = Buttons, QEvent::Type event = QEvent::None)
     {
-        marks().push_back({object, survival, isHiding});
+        marks().push_back({object, survival, event});
     }
     ~Busy() { marks().pop_back(); }
     Q_DISABLE_COPY_MOVE(Busy)
@@ -40,7 +42,7 @@ private:
     {
         QPointer<QObject> object;
         Survival survival;
-        bool isHiding;
+        QEvent::Type event;
     };
     static std::vector<Mark> &marks();
 };

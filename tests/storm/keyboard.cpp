@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QFocusFrame>
 #include <QInputMethodEvent>
 #include <QTest>
 #include <QWindow>
@@ -34,16 +35,13 @@ struct Key
         : key(random.pick(keys))
         , modifier(random.pick(modifiers))
     {
-    }
-
-    QString typed() const
-    {
-        const bool isSign = key >= Qt::Key_Space && key <= Qt::Key_AsciiTilde;
-        return isSign ? QString(QChar(key)).toLower() : QString();
+        if (key >= Qt::Key_Space && key <= Qt::Key_AsciiTilde)
+            typed = QString(QChar(key)).toLower();
     }
 
     Qt::Key key;
     Qt::KeyboardModifiers modifier;
+    QString typed;
 };
 
 Deed key(Random &random)
@@ -51,33 +49,26 @@ Deed key(Random &random)
     const int slot = random.below(Stage::slotCount());
     const int child = random.between(-1, 30);
     const Key key(random);
-    const QString text = QStringLiteral("%1 child %2 key 0x%3 modifiers 0x%4")
-                             .arg(QLatin1String(Stage::className(slot)))
-                             .arg(child)
-                             .arg(key.key, 0, 16)
-                             .arg(int(key.modifier), 0, 16);
-    return {text, [=](Stage &stage) {
-                const QPointer<QWidget> receiver = receiverIn(stage.at(slot), child);
-                for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
-                    if (!receiver)
-                        return;
-                    QKeyEvent event(type, key.key, key.modifier, key.typed());
-                    QSpontaneKeyEvent::setSpontaneous(&event);
-                    qApp->notify(receiver, &event);
-                }
-            }};
+    return deedTo(slot, [=](Stage &, QWidget *control) {
+        const QPointer<QWidget> receiver = receiverIn(control, child);
+        for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+            if (!receiver)
+                return;
+            QKeyEvent event(type, key.key, key.modifier, key.typed);
+            QSpontaneKeyEvent::setSpontaneous(&event);
+            qApp->notify(receiver, &event);
+        }
+    });
 }
 
 /// By way of the platform: to what has the focus, or to the open popup.
 Deed platformKey(Random &random)
 {
     const Key key(random);
-    const QString text =
-        QStringLiteral("focus key 0x%1 modifiers 0x%2").arg(key.key, 0, 16).arg(int(key.modifier), 0, 16);
-    return {text, [=](Stage &stage) {
+    return {{}, [=](Stage &stage) {
                 for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
                     qt_handleKeyEvent(stage.window()->windowHandle(), type, key.key, key.modifier,
-                                      key.typed());
+                                      key.typed);
                 }
             }};
 }
@@ -86,23 +77,19 @@ Deed commitText(Random &random)
 {
     const int slot = random.below(Stage::slotCount());
     const int child = random.between(-1, 30);
-    const auto argument = Wild::draw<QString>(random);
-    const QString text = QStringLiteral("%1 child %2 %3")
-                             .arg(QLatin1String(Stage::className(slot)))
-                             .arg(child)
-                             .arg(argument.text);
-    return {text, [=](Stage &stage) {
-                QInputMethodEvent event(argument.value.left(2), {});
-                event.setCommitString(argument.value, -1, 1);
-                QApplication::sendEvent(receiverIn(stage.at(slot), child), &event);
-            }};
+    const QString text = Wild::text(random);
+    return deedTo(slot, [=](Stage &, QWidget *control) {
+        QInputMethodEvent event(text.left(2), {});
+        event.setCommitString(text, -1, 1);
+        QApplication::sendEvent(receiverIn(control, child), &event);
+    });
 }
 
 Deed paste(Random &random)
 {
-    const auto argument = Wild::draw<QString>(random);
-    return {argument.text, [=](Stage &stage) {
-                QGuiApplication::clipboard()->setText(argument.value);
+    const QString text = Wild::text(random);
+    return {{}, [=](Stage &stage) {
+                QGuiApplication::clipboard()->setText(text);
                 QWidget *focused = QApplication::focusWidget();
                 QWidget *receiver = focused ? focused : stage.window();
                 QKeyEvent event(QEvent::KeyPress, Qt::Key_V, Qt::ControlModifier);
@@ -115,29 +102,26 @@ Deed focus(Random &random)
     const int slot = random.below(Stage::slotCount());
     const int child = random.between(-1, 30);
     const bool takes = !random.oneIn(4);
-    const QString text = QStringLiteral("%1 child %2 %3")
-                             .arg(QLatin1String(Stage::className(slot)))
-                             .arg(child)
-                             .arg(QLatin1String(takes ? "takes" : "loses"));
-    return {text, [=](Stage &stage) {
-                QWidget *receiver = receiverIn(stage.at(slot), child);
-                if (takes)
-                    receiver->setFocus(Qt::TabFocusReason);
-                else
-                    receiver->clearFocus();
-            }};
+    return deedTo(slot, [=](Stage &, QWidget *control) {
+        QWidget *receiver = receiverIn(control, child);
+        if (qobject_cast<QFocusFrame *>(receiver))
+            return; // it marks what has the focus, and goes in the middle of the change if it is that itself
+        if (takes)
+            receiver->setFocus(Qt::TabFocusReason);
+        else
+            receiver->clearFocus();
+    });
 }
 
 } // namespace
 
-const std::vector<Action> &Actions::keyboard()
+std::vector<Action> Actions::keyboard()
 {
-    static const std::vector<Action> actions = {
+    return {
         {"key", 25, key},
         {"platformKey", 10, platformKey},
         {"commitText", 6, commitText},
         {"paste", 4, paste},
         {"focus", 10, focus},
     };
-    return actions;
 }

@@ -2,6 +2,7 @@
 #include "busy.h"
 #include "finding.h"
 #include "stage.h"
+#include "table.h"
 #include "wild.h"
 
 #include <Tavik/Tavik>
@@ -10,100 +11,49 @@
 
 namespace {
 
-QString targetText(int slot, const QString &arguments = {})
-{
-    return QLatin1String(Stage::className(slot)) + QLatin1Char(' ') + arguments;
-}
+using Wild::Pixels;
 
 Deed destroy(Random &random)
 {
     const int slot = random.below(Stage::slotCount());
     const bool later = random.oneIn(2);
-    return {targetText(slot, QLatin1String(later ? "later" : "at once")), [=](Stage &stage) {
-                QWidget *control = stage.at(slot);
-                if (later)
-                    control->deleteLater();
-                else
-                    Stage::destroy(control);
-            }};
+    return deedTo(slot, [=](Stage &, QWidget *control) {
+        if (later)
+            control->deleteLater();
+        else
+            Stage::destroy(control);
+    });
 }
 
 // ---- Other constructors than the plain ones ----
 
-struct Construction
-{
-    QString arguments;
-    std::function<QWidget *(QWidget *parent)> make;
-};
+using Make = std::function<QWidget *(QWidget *parent)>;
 
 struct Constructor
 {
     const char *className;
-    std::function<Construction(Random &)> draw;
+    std::function<Make(Random &)> draw;
 };
 
-/// A constructor by the types of its arguments; the parent comes last.
-template <class Class, class... Arguments>
-Constructor constructor()
+/// Makes a control from a parent and arguments of these types.
+template <class Class, class... Arguments, class Function>
+Constructor making(Function function)
 {
-    const auto draw = [](Random &random) {
-        const std::tuple<Wild::Drawn<Arguments>...> drawn{Wild::draw<Arguments>(random)...};
-        const auto told = [](const auto &...argument) {
-            return QStringList{argument.text...}.join(QLatin1String(", "));
-        };
-        const auto make = [=](QWidget *parent) -> QWidget * {
-            return std::apply([&](const auto &...argument) { return new Class(argument.value..., parent); },
-                              drawn);
-        };
-        return Construction{std::apply(told, drawn), make};
-    };
-    return {Class::staticMetaObject.className(), draw};
+    return {Class::staticMetaObject.className(), [=](Random &random) -> Make {
+                // Braces, because only there the order of drawing is fixed.
+                const std::tuple<Arguments...> drawn{Wild::draw<Arguments>(random)...};
+                return [=](QWidget *parent) {
+                    return std::apply(function, std::tuple_cat(std::tuple(parent), drawn));
+                };
+            }};
 }
 
-/// A constructor from a width and a height in pixels, and more. They stay small, as the control keeps pictures
-/// of that size.
-template <class Class, class... More>
-Constructor pixelConstructor(More... more)
+/// A constructor by the types of its arguments, of which the last ones may be given; the parent comes last.
+template <class Class, class... Arguments, class... Given>
+Constructor constructor(Given... given)
 {
-    const auto draw = [=](Random &random) {
-        const int width = Wild::pixels(random);
-        const int height = Wild::pixels(random);
-        const auto make = [=](QWidget *parent) -> QWidget * {
-            return new Class(width, height, more..., parent);
-        };
-        return Construction{QStringLiteral("%1, %2").arg(width).arg(height), make};
-    };
-    return {Class::staticMetaObject.className(), draw};
-}
-
-Constructor imageButton()
-{
-    const auto draw = [](Random &random) {
-        const auto path = Wild::draw<QString>(random);
-        const auto size = Wild::draw<QSize>(random);
-        const bool hasLabel = !random.oneIn(4);
-        const auto make = [=](QWidget *parent) -> QWidget * {
-            return new TavikButton(path.value, size.value, hasLabel ? new TavikLabel : nullptr, parent);
-        };
-        return Construction{path.text + size.text + QLatin1String(hasLabel ? " label" : ""), make};
-    };
-    return {"TavikButton", draw};
-}
-
-Constructor spinbox()
-{
-    const auto draw = [](Random &random) {
-        const auto first = Wild::draw<int>(random);
-        const auto last = Wild::draw<int>(random);
-        const auto step = Wild::draw<int>(random);
-        const auto rem = Wild::draw<double>(random);
-        const auto make = [=](QWidget *parent) -> QWidget * {
-            return new TavikSpinbox(first.value, last.value, step.value, parent, true, rem.value);
-        };
-        return Construction{QStringList{first.text, last.text, step.text, rem.text}.join(QLatin1Char(' ')),
-                            make};
-    };
-    return {"TavikSpinbox", draw};
+    return making<Class, Arguments...>(
+        [=](QWidget *parent, const auto &...argument) { return new Class(argument..., given..., parent); });
 }
 
 const std::vector<Constructor> &constructors()
@@ -113,27 +63,33 @@ const std::vector<Constructor> &constructors()
         constructor<TavikButton, QString, TavikButton::Type>(),
         constructor<TavikButton, QIcon, QSizeF, QString, TavikButton::Type>(),
         constructor<TavikButton, QIcon, QSize, TavikButton::Type>(),
-        imageButton(),
+        making<TavikButton, QString, QSize, bool>(
+            [](QWidget *parent, const QString &path, const QSize &size, bool hasLabel) {
+                return new TavikButton(path, size, hasLabel ? new TavikLabel : nullptr, parent);
+            }),
         constructor<TavikButtonGroup, Direction, double, QSizeF, TavikButtonGroup::Mode, double>(),
         constructor<TavikButtonGroup, Direction, int, QSize, TavikButtonGroup::Mode, int>(),
         constructor<TavikCheckBox, QString>(),
         constructor<TavikRadioButton, QString>(),
         constructor<TavikLineEdit, QString, TavikLineEdit::Type, Qt::Alignment>(),
         constructor<TavikLineEdit, QString, TavikLineEdit::Type, Qt::Alignment>(), // six types
-        spinbox(),
+        making<TavikSpinbox, int, int, int, double>(
+            [](QWidget *parent, int first, int last, int step, double rem) {
+                return new TavikSpinbox(first, last, step, parent, true, rem);
+            }),
         constructor<TavikDoubleSpinbox, double, double, double>(),
         constructor<TavikComboBox, TavikComboBox::Type>(),
-        pixelConstructor<TavikSlider>(),
+        constructor<TavikSlider, Pixels, Pixels>(),
         constructor<TavikSlider, double, int>(),
         constructor<TavikContainer, Direction, QString, QString, QString, QString, QString>(),
         constructor<TavikExpandable, QString, double, bool>(),
         constructor<TavikScrollArea, QString, QString, QString>(),
         constructor<TavikColorButton, QColor>(),
-        pixelConstructor<TavikColorPicker>(),
-        pixelConstructor<TavikColorSilder>(TavikColorSilder::Alpha),
-        pixelConstructor<TavikColorSilder>(TavikColorSilder::Type(7)),
-        pixelConstructor<TavikColorWell>(),
-        pixelConstructor<TavikGradientBar>(),
+        constructor<TavikColorPicker, Pixels, Pixels>(),
+        constructor<TavikColorSilder, Pixels, Pixels>(TavikColorSilder::Alpha),
+        constructor<TavikColorSilder, Pixels, Pixels>(TavikColorSilder::Type(7)),
+        constructor<TavikColorWell, Pixels, Pixels>(),
+        constructor<TavikGradientBar, Pixels, Pixels>(),
         constructor<TavikGradientBar, double, double>(),
         constructor<TavikColorPopup, QColor>(),
     };
@@ -143,11 +99,9 @@ const std::vector<Constructor> &constructors()
 Deed construct(Random &random)
 {
     const Constructor &constructor = random.pick(constructors());
-    const Construction construction = constructor.draw(random);
-    const QString text =
-        QStringLiteral("%1(%2)").arg(QLatin1String(constructor.className), construction.arguments);
-    return {text, [=](Stage &stage) {
-                stage.replace(Stage::slotOf(constructor.className), construction.make(stage.window()));
+    const Make make = constructor.draw(random);
+    return {QLatin1String(constructor.className), [=](Stage &stage) {
+                stage.replace(Stage::slotOf(constructor.className), make(stage.window()));
             }};
 }
 
@@ -166,24 +120,23 @@ Deed nest(Random &random)
 {
     const int slot = random.below(Stage::popupSlots().front());
     const int place = random.below(4);
-    return {targetText(slot, QString::number(place)), [=](Stage &stage) {
-                QWidget *control = stage.at(slot);
-                QWidget *const homes[] = {stage.control<TavikContainer>(), stage.control<TavikExpandable>(),
-                                          stage.control<TavikScrollArea>()};
-                if (place == 3) {
-                    control->setParent(stage.window());
-                    control->show();
-                    return;
-                }
-                if (control == homes[place] || control->isAncestorOf(homes[place]))
-                    return;
-                if (place == 0)
-                    static_cast<TavikContainer *>(homes[0])->addWidget(control);
-                else if (place == 1)
-                    static_cast<TavikExpandable *>(homes[1])->addWidget(control);
-                else
-                    putIntoScrollArea(stage, control);
-            }};
+    return deedTo(slot, [=](Stage &stage, QWidget *control) {
+        QWidget *const homes[] = {stage.control<TavikContainer>(), stage.control<TavikExpandable>(),
+                                  stage.control<TavikScrollArea>()};
+        if (place == 3) {
+            control->setParent(stage.window());
+            control->show();
+            return;
+        }
+        if (control == homes[place] || control->isAncestorOf(homes[place]))
+            return;
+        if (place == 0)
+            static_cast<TavikContainer *>(homes[0])->addWidget(control);
+        else if (place == 1)
+            static_cast<TavikExpandable *>(homes[1])->addWidget(control);
+        else
+            putIntoScrollArea(stage, control);
+    });
 }
 
 // ---- In the middle of a signal ----
@@ -191,16 +144,15 @@ Deed nest(Random &random)
 struct Signal
 {
     const char *className;
-    const char *name;
-    Busy::Survival survival;
+    QString name;
     std::function<QMetaObject::Connection(QWidget *, QObject *, std::function<void()>)> connect;
+    Busy::Survival survival = Busy::Buttons;
 };
 
 template <class Class, class Owner, class... Arguments>
-Signal signal(const char *name, void (Owner::*member)(Arguments...),
-              Busy::Survival survival = Busy::Buttons)
+Signal rowOf(const QString &name, void (Owner::*member)(Arguments...))
 {
-    return {Class::staticMetaObject.className(), name, survival,
+    return {Class::staticMetaObject.className(), name,
             [member](QWidget *control, QObject *context, const std::function<void()> &slot) {
                 // The arguments are copied, because a receiver may read them.
                 return QObject::connect(static_cast<Class *>(control), member, context,
@@ -208,50 +160,37 @@ Signal signal(const char *name, void (Owner::*member)(Arguments...),
             }};
 }
 
-#define SIGNAL_OF(Class, member) signal<Class>(#member, &Class::member)
-#define SIGNAL_AS(Class, member, ...) signal<Class>(#member, qOverload<__VA_ARGS__>(&Class::member))
-
-const std::vector<Signal> &signalTable()
+std::vector<Signal> allSignals()
 {
-    static const std::vector<Signal> table = {
-        SIGNAL_OF(TavikButton, pressed),
-        SIGNAL_OF(TavikButton, released),
-        SIGNAL_OF(TavikButton, clicked),
-        signal<TavikButton>("toggled", &TavikButton::toggled, Busy::Nothing),
-        SIGNAL_OF(TavikButtonGroup, buttonClicked),
-        SIGNAL_OF(TavikCheckBox, toggled),
-        SIGNAL_OF(TavikRadioButton, toggled),
-        SIGNAL_OF(TavikLineEdit, textChanged),
-        SIGNAL_OF(TavikLineEdit, editingFinished),
-        SIGNAL_AS(TavikSpinbox, valueChanged, int),
-        SIGNAL_AS(TavikDoubleSpinbox, valueChanged, double),
-        SIGNAL_AS(TavikComboBox, currentIndexChanged, int),
-        SIGNAL_OF(TavikFontFamilyComboBox, editTextChanged),
-        SIGNAL_OF(TavikSlider, valueChanged),
-        SIGNAL_OF(TavikDial, valueChanged),
-        SIGNAL_OF(TavikExpandable, remExpandHeightChanged),
-        SIGNAL_OF(TavikExpandable, animationStarted),
-        SIGNAL_OF(TavikExpandable, animationFinished),
-        SIGNAL_OF(TavikImageList, itemSelectionChanged),
-        SIGNAL_OF(TavikColorButton, clicked),
-        SIGNAL_OF(TavikColorButton, showPopup),
-        SIGNAL_OF(TavikColorButton, colorChanged),
-        SIGNAL_OF(TavikColorPicker, colorChanged),
-        SIGNAL_OF(TavikColorSilder, valueChanged),
-        SIGNAL_OF(TavikColorWell, colorSelected),
-        SIGNAL_OF(TavikColorWell, addColorRequested),
-        SIGNAL_OF(TavikGradientBar, selectedStartColor),
-        SIGNAL_OF(TavikGradientBar, selectedEndColor),
-        SIGNAL_OF(TavikGradientBar, colorPopupRequest),
-        SIGNAL_OF(TavikColorPopup, colorChanged),
-    };
+    std::vector<Signal> table;
+    ADD(TavikButton, &C::pressed, &C::released, &C::clicked, &C::toggled)
+    table.back().survival = Busy::Nothing;
+    ADD(TavikButtonGroup, &C::buttonClicked)
+    ADD(TavikCheckBox, &C::toggled)
+    ADD(TavikRadioButton, &C::toggled)
+    ADD(TavikLineEdit, &C::textChanged, &C::editingFinished)
+    ADD(TavikSpinbox, qOverload<int>(&C::valueChanged))
+    ADD(TavikDoubleSpinbox, qOverload<double>(&C::valueChanged))
+    ADD(TavikComboBox, qOverload<int>(&C::currentIndexChanged))
+    ADD(TavikFontFamilyComboBox, &C::editTextChanged)
+    ADD(TavikSlider, &C::valueChanged)
+    ADD(TavikDial, &C::valueChanged)
+    ADD(TavikExpandable, &C::remExpandHeightChanged, &C::animationStarted, &C::animationFinished)
+    ADD(TavikImageList, &C::itemSelectionChanged)
+    ADD(TavikColorButton, &C::clicked, &C::showPopup, &C::colorChanged)
+    ADD(TavikColorPicker, &C::colorChanged)
+    ADD(TavikColorSilder, &C::valueChanged)
+    ADD(TavikColorWell, &C::colorSelected, &C::addColorRequested)
+    ADD(TavikGradientBar, &C::selectedStartColor, &C::selectedEndColor, &C::colorPopupRequest)
+    ADD(TavikColorPopup, &C::colorChanged)
     return table;
 }
 
 /// The popup tells of its hiding: not the time for just any step, see Busy::isPopupHiding().
 const Signal &hiding()
 {
-    static const Signal hiding = SIGNAL_OF(TavikColorPopup, colorPopupHide);
+    static const Signal hiding =
+        rowOf<TavikColorPopup>(QStringLiteral("colorPopupHide"), &TavikColorPopup::colorPopupHide);
     return hiding;
 }
 
@@ -265,24 +204,25 @@ Deed deedWithin(const Signal &signal, Random &random)
 /// Waits for a signal, and does another step in the middle of it, once: half of the time to the same control.
 Deed trap(Random &random)
 {
-    const Signal &signal = random.oneIn(20) ? hiding() : random.pick(signalTable());
+    static const std::vector<Signal> signals = allSignals();
+    const Signal &signal = random.oneIn(20) ? hiding() : random.pick(signals);
     const Deed inner = deedWithin(signal, random);
-    const QString text = QStringLiteral("%1::%2 does %3")
-                             .arg(QLatin1String(signal.className), QLatin1String(signal.name), inner.text);
-    return {text, [=](Stage &stage) {
-                const QPointer<QWidget> control = stage.at(Stage::slotOf(signal.className));
-                const auto connection = std::make_shared<QMetaObject::Connection>();
-                const bool canHide = &signal == &hiding();
-                *connection = signal.connect(control, stage.wires(), [=, &stage] {
-                    if (Busy::isPopupHiding() && !canHide)
-                        return;
-                    QObject::disconnect(*connection);
-                    if (!control)
-                        Finding::end(QStringLiteral("A control that is being destroyed sends a signal"));
-                    const Busy busy(control, signal.survival);
-                    inner.act(stage);
-                });
-            }};
+    const auto setUp = [=, &signal](Stage &stage, QWidget *target) {
+        const QPointer<QWidget> control = target;
+        const auto connection = std::make_shared<QMetaObject::Connection>();
+        const bool canHide = &signal == &hiding();
+        *connection = signal.connect(control, stage.wires(), [=, &signal, &stage] {
+            if (Busy::isPopupHiding() && !canHide)
+                return;
+            QObject::disconnect(*connection);
+            if (!control)
+                Finding::end(QStringLiteral("A control that is being destroyed sends a signal"));
+            const Busy busy(control, signal.survival);
+            inner.act(stage);
+        });
+    };
+    return deedTo(Stage::slotOf(signal.className), setUp,
+                  QStringLiteral("::%1 does %2").arg(signal.name, inner.text));
 }
 
 /// Not in the middle of a signal: there the toolkit may then delete what it still needs.
@@ -296,11 +236,10 @@ Deed processEvents(Random &)
 
 } // namespace
 
-const std::vector<Action> &Actions::lifetimes()
+std::vector<Action> Actions::lifetimes()
 {
-    static const std::vector<Action> actions = {
+    return {
         {"destroy", 8, destroy}, {"construct", 10, construct},         {"nest", 5, nest},
         {"trap", 45, trap},      {"processEvents", 20, processEvents},
     };
-    return actions;
 }

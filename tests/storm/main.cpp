@@ -28,8 +28,7 @@ public:
             return true;
         if (!receiver->isWidgetType())
             return QApplication::notify(receiver, event);
-        const bool isHiding = event->type() == QEvent::Hide || event->type() == QEvent::Close;
-        const Busy busy(receiver, Busy::Buttons, isHiding);
+        const Busy busy(receiver, Busy::Buttons, event->type());
         return QApplication::notify(receiver, event);
     }
 
@@ -45,46 +44,36 @@ private:
     }
 };
 
-struct Options
+/// Reads --seed, --from, --count and --log.
+void readOptions(QCommandLineParser *parser)
 {
-    quint64 seed = 1;
-    int from = 0; // the first step
-    int to = 0;   // the step after the last one
-    QString log;
-};
-
-Options readOptions(const QCoreApplication &app)
-{
-    QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral(
+    parser->setApplicationDescription(QStringLiteral(
         "Does random things to a window with every control. The same seed does the same things.\n"
         "The log's last line tells what was being done when a fault was found."));
-    parser.addHelpOption();
-    const QString number = QStringLiteral("number");
-    parser.addOption({QStringLiteral("seed"), QStringLiteral("Which storm."), number, QStringLiteral("1")});
-    parser.addOption({QStringLiteral("from"),
-                      QStringLiteral("The first step: to find out which steps a fault needs."), number,
-                      QStringLiteral("0")});
-    parser.addOption({QStringLiteral("count"), QStringLiteral("The step to end before."), number,
-                      QStringLiteral("20000")});
-    parser.addOption({QStringLiteral("log"), QStringLiteral("Where to write the steps, a line each."),
-                      QStringLiteral("file"), QStringLiteral("storm.log")});
-    parser.process(app);
-    const auto value = [&](const char *name) { return parser.value(QLatin1String(name)); };
-    return {value("seed").toULongLong(), value("from").toInt(), value("count").toInt(), value("log")};
+    parser->addHelpOption();
+    const auto add = [&](const char *name, const char *description, const char *byDefault) {
+        parser->addOption({QLatin1String(name), QLatin1String(description), QStringLiteral("value"),
+                           QLatin1String(byDefault)});
+    };
+    add("seed", "Which storm.", "1");
+    add("from", "The first step: to find out which steps a fault needs.", "0");
+    add("count", "The step to end before.", "20000");
+    add("log", "Where to write the steps, a line each.", "storm.log");
+    parser->process(*qApp);
 }
 
 /// Does the steps, one after another, some of them before the event loop has its turn again.
 class Storm : public QObject
 {
 public:
-    explicit Storm(const Options &options)
-        : m_options(options)
-        , m_log(options.log)
-        , m_step(options.from)
+    explicit Storm(const QCommandLineParser &options)
+        : m_seed(options.value(QStringLiteral("seed")).toULongLong())
+        , m_step(options.value(QStringLiteral("from")).toInt())
+        , m_end(options.value(QStringLiteral("count")).toInt())
+        , m_log(options.value(QStringLiteral("log")))
     {
         if (!m_log.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
-            Finding::end(QStringLiteral("Cannot write ") + options.log);
+            Finding::end(QStringLiteral("Cannot write ") + m_log.fileName());
         startTimer(0);
     }
 
@@ -97,14 +86,14 @@ protected:
         // The loop may be late with them after events were processed within a deed.
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         Finding::checkSettled();
-        while (m_step < m_options.to) {
-            Random random(m_options.seed, quint64(m_step));
+        while (m_step < m_end) {
+            Random random(m_seed, quint64(m_step));
             doStep(random);
             ++m_step;
             if (random.oneIn(4))
                 break;
         }
-        if (m_step < m_options.to)
+        if (m_step < m_end)
             startTimer(0);
         else
             QCoreApplication::quit();
@@ -114,15 +103,15 @@ private:
     void doStep(Random &random)
     {
         const Deed deed = Actions::any(random);
-        const QString line = QStringLiteral("%1 %2\n").arg(m_step).arg(deed.text);
-        m_log.write(line.toUtf8());
+        m_log.write(QStringLiteral("%1 %2\n").arg(m_step).arg(deed.text).toUtf8());
         deed.act(m_stage);
         Finding::check(m_stage);
     }
 
-    Options m_options;
-    QFile m_log;
+    quint64 m_seed;
     int m_step;
+    int m_end; // the step after the last one
+    QFile m_log;
     Stage m_stage;
 };
 
@@ -135,7 +124,8 @@ int main(int argc, char **argv)
     const Application app(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setStyle(QStringLiteral("Fusion"));
-    const Options options = readOptions(app);
+    QCommandLineParser options;
+    readOptions(&options);
     Finding::listenToMessages();
     LenConverter::initRem();
     {

@@ -101,12 +101,13 @@ void Stage::adopt(int slot, QWidget *control)
 
 void Stage::wire(QWidget *control)
 {
+    const auto showPopup = [this](const QPoint &pos, const QColor &color) {
+        this->control<TavikColorPopup>()->showColorPopup(pos, color);
+    };
     if (auto *button = qobject_cast<TavikColorButton *>(control)) {
-        QObject::connect(button, &TavikColorButton::showPopup, wires(),
-                         [this](const QPoint &pos, const QColor &color) { showPopup(pos, color); });
+        QObject::connect(button, &TavikColorButton::showPopup, wires(), showPopup);
     } else if (auto *bar = qobject_cast<TavikGradientBar *>(control)) {
-        QObject::connect(bar, &TavikGradientBar::colorPopupRequest, wires(),
-                         [this](const QPoint &pos, const QColor &color) { showPopup(pos, color); });
+        QObject::connect(bar, &TavikGradientBar::colorPopupRequest, wires(), showPopup);
     } else if (auto *well = qobject_cast<TavikColorWell *>(control)) {
         QObject::connect(well, &TavikColorWell::addColorRequested, well,
                          [well] { well->addColor(Qt::red); });
@@ -125,11 +126,6 @@ void Stage::wire(QWidget *control)
                 gradient->setEndColor(color);
         });
     }
-}
-
-void Stage::showPopup(const QPoint &pos, const QColor &color)
-{
-    control<TavikColorPopup>()->showColorPopup(pos, color);
 }
 
 std::vector<QPointer<QWidget>> Stage::samplers()

@@ -55,7 +55,6 @@ public:
 private:
     void adopt(int slot, QWidget *control);
     void wire(QWidget *control);
-    void showPopup(const QPoint &pos, const QColor &color);
 
     std::unique_ptr<QObject> m_wires = std::make_unique<QObject>();
     std::unique_ptr<QWidget> m_window;

@@ -4,57 +4,33 @@
 
 namespace {
 
-using Double = std::numeric_limits<double>;
-using Int = std::numeric_limits<int>;
+constexpr double infinity = std::numeric_limits<double>::infinity();
+constexpr double nan = std::numeric_limits<double>::quiet_NaN();
+constexpr double lengths[] = {nan, -infinity, -1e300, -1, -0.0, 0, 1e-300, 0.3, 0.5, 1, 1.167, 2.5, 9, 30};
+constexpr double largeNumbers[] = {1e6, 1e9, 1e300, infinity};
 
-constexpr double lengths[] = {Double::quiet_NaN(),
-                              -Double::infinity(),
-                              -1e300,
-                              -1.0,
-                              -0.0,
-                              0.0,
-                              1e-300,
-                              0.3,
-                              0.5,
-                              1.0,
-                              1.167,
-                              2.5,
-                              9.0,
-                              30.0};
-
-constexpr double largeNumbers[] = {1e6, 1e9, 1e300, Double::infinity()};
-
-constexpr int integers[] = {
-    Int::min(), Int::min() + 1, -100000,   -255, -1, 0, 1, 2, 7, 50, 99, 100, 101, 255, 256, 300, 360, 1000,
-    100000,     Int::max() - 1, Int::max()};
-
+constexpr int smallest = std::numeric_limits<int>::min();
+constexpr int largest = std::numeric_limits<int>::max();
+constexpr int integers[] = {smallest, smallest + 1, -100000, -255,        -1,     0,   1,   2,
+                            7,        50,           99,      100,         101,    255, 256, 300,
+                            360,      1000,         100000,  largest - 1, largest};
 constexpr int pixelCounts[] = {-1000, -1, 0, 1, 2, 3, 6, 7, 16, 40, 190, 400};
 
-const char *const texts[] = {"",
-                             "x",
-                             "Several words, one & mnemonic && more",
-                             "\u00c4\u00d6 \u6f22\u5b57 \U0001f642 \u202eright to left",
-                             "line\nfeed\ttab",
-                             "-12",
-                             "300",
-                             "0,5",
-                             "1e400",
-                             "nan",
-                             "#12",
-                             "#08a274",
-                             "12px",
-                             "<b>rich</b>",
-                             "%1 %2 %n",
-                             "} { ; :"};
+const char *const texts[] = {
+    // clang-format off
+    "", "x", "Several words, one & mnemonic && more", "\u00c4\u00d6 \u6f22\u5b57 \U0001f642 \u202eright to left",
+    "line\nfeed\ttab", "-12", "300", "0,5", "1e400", "nan", "#12", "#08a274", "12px", "<b>rich</b>", "%1 %2 %n", "} { ; :"
+    // clang-format on
+};
 
 const char *const iconFiles[] = {"", ":/Color/images/plus.svg", ":/Color/images/alpha_texture.png",
                                  "/no/such/file.png", "/dev/null"};
 
 } // namespace
 
-double Wild::number(Random &random)
+Wild::Number::Number(Random &random)
+    : value(random.oneIn(5) ? random.pick(largeNumbers) : length(random))
 {
-    return random.oneIn(5) ? random.pick(largeNumbers) : length(random);
 }
 
 double Wild::length(Random &random)
@@ -67,9 +43,9 @@ int Wild::integer(Random &random)
     return random.pick(integers);
 }
 
-int Wild::pixels(Random &random)
+Wild::Pixels::Pixels(Random &random)
+    : value(random.pick(pixelCounts))
 {
-    return random.pick(pixelCounts);
 }
 
 QString Wild::text(Random &random)
@@ -102,8 +78,8 @@ QColor Wild::color(Random &random)
     }
 }
 
-Wild::Drawn<QIcon> Wild::icon(Random &random)
+QIcon Wild::icon(Random &random)
 {
     const QString file = QLatin1String(random.pick(iconFiles));
-    return {file.isEmpty() ? QIcon() : QIcon(file), file};
+    return file.isEmpty() ? QIcon() : QIcon(file);
 }

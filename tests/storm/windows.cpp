@@ -6,75 +6,63 @@
 #include <Tavik/Tavik>
 
 #include <QApplication>
+#include <QMouseEvent>
 #include <QTest>
 
 namespace {
 
-TavikColorPopup *popupAt(Stage &stage, int index)
+/// What a window or a control is told, with a place where it needs one.
+struct Treatment
 {
-    return static_cast<TavikColorPopup *>(stage.at(Stage::popupSlots().at(size_t(index))));
-}
-
-QString popupText(int index, const QString &arguments)
-{
-    return QStringLiteral("popup %1 %2").arg(index).arg(arguments);
-}
+    const char *name;
+    void (*act)(QWidget *widget, QPoint pos);
+};
 
 /// Opens a popup anywhere, within the screen or far outside.
 Deed openPopup(Random &random)
 {
-    const int index = random.below(2);
-    const QPoint pos = random.oneIn(8) ? Wild::draw<QPoint>(random).value
+    const int slot = random.pick(Stage::popupSlots());
+    const QPoint pos = random.oneIn(8) ? Wild::draw<QPoint>(random)
                                        : QPoint(random.between(-200, 1000), random.between(-200, 800));
-    const auto color = Wild::draw<QColor>(random);
-    const QString text =
-        popupText(index, QStringLiteral("at %1,%2 ").arg(pos.x()).arg(pos.y()) + color.text);
-    return {text, [=](Stage &stage) { popupAt(stage, index)->showColorPopup(pos, color.value); }};
+    const QColor color = Wild::color(random);
+    return deedTo(slot, [=](Stage &, QWidget *popup) {
+        static_cast<TavikColorPopup *>(popup)->showColorPopup(pos, color);
+    });
 }
 
 /// Clicks the button that starts the sampler: the only one that is a direct child.
 Deed sample(Random &random)
 {
-    const int index = random.below(2);
-    return {popupText(index, {}), [=](Stage &stage) {
-                TavikColorPopup *popup = popupAt(stage, index);
-                const Busy busy(popup);
-                popup->findChild<TavikButton *>({}, Qt::FindDirectChildrenOnly)->click();
-            }};
+    return deedTo(random.pick(Stage::popupSlots()), [](Stage &, QWidget *popup) {
+        const Busy busy(popup);
+        popup->findChild<TavikButton *>({}, Qt::FindDirectChildrenOnly)->click();
+    });
 }
 
 /// What is done to all samplers that are there: picked with, left, closed or deleted by an application that
 /// deletes all its windows.
 Deed endSampler(Random &random)
 {
-    struct End
-    {
-        const char *name;
-        std::function<void(QWidget *, QPoint)> act;
+    static const std::vector<Treatment> ends = {
+        {"left button", [](QWidget *w, QPoint pos) { QTest::mousePress(w, Qt::LeftButton, {}, pos); }},
+        {"right button", [](QWidget *w, QPoint pos) { QTest::mousePress(w, Qt::RightButton, {}, pos); }},
+        {"Alt", [](QWidget *w, QPoint) { QTest::keyPress(w, Qt::Key_Alt); }},
+        {"Escape", [](QWidget *w, QPoint) { QTest::keyPress(w, Qt::Key_Escape); }},
+        {"Return", [](QWidget *w, QPoint) { QTest::keyPress(w, Qt::Key_Return); }},
+        {"move",
+         [](QWidget *w, QPoint pos) {
+             // Not by the test library, which then processes all events.
+             QMouseEvent event(QEvent::MouseMove, pos, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+             QApplication::sendEvent(w, &event);
+         }},
+        {"close", [](QWidget *w, QPoint) { w->close(); }},
+        {"show", [](QWidget *w, QPoint) { w->show(); }},
+        {"deleteLater", [](QWidget *w, QPoint) { w->deleteLater(); }},
+        {"delete", [](QWidget *w, QPoint) { Stage::destroy(w); }},
     };
-    const auto press = [](Qt::MouseButton button) {
-        return [=](QWidget *window, QPoint pos) { QTest::mousePress(window, button, {}, pos); };
-    };
-    const auto key = [](Qt::Key code) {
-        return [=](QWidget *window, QPoint) { QTest::keyPress(window, code); };
-    };
-    static const std::vector<End> ends = {
-        {"left button", press(Qt::LeftButton)},
-        {"right button", press(Qt::RightButton)},
-        {"Alt", key(Qt::Key_Alt)},
-        {"Escape", key(Qt::Key_Escape)},
-        {"Return", key(Qt::Key_Return)},
-        {"move", [](QWidget *window, QPoint pos) { QTest::mouseMove(window, pos); }},
-        {"close", [](QWidget *window, QPoint) { window->close(); }},
-        {"show", [](QWidget *window, QPoint) { window->show(); }},
-        {"deleteLater", [](QWidget *window, QPoint) { window->deleteLater(); }},
-        {"delete", [](QWidget *window, QPoint) { Stage::destroy(window); }},
-    };
-    const End &end = random.pick(ends);
+    const Treatment &end = random.pick(ends);
     const QPoint pos(random.between(1, 799), random.between(1, 599));
-    const QString text =
-        QStringLiteral("sampler %1 %2,%3").arg(QLatin1String(end.name)).arg(pos.x()).arg(pos.y());
-    return {text, [=](Stage &) {
+    return {QLatin1String(end.name), [=](Stage &) {
                 for (const QPointer<QWidget> &window : Stage::samplers()) {
                     if (window)
                         end.act(window, pos);
@@ -85,39 +73,30 @@ Deed endSampler(Random &random)
 /// What any widget can be told.
 Deed treat(Random &random)
 {
-    struct Treatment
-    {
-        const char *name;
-        std::function<void(QWidget *, int, int)> act;
-    };
     static const std::vector<Treatment> treatments = {
-        {"show", [](QWidget *widget, int, int) { widget->show(); }},
-        {"hide", [](QWidget *widget, int, int) { widget->hide(); }},
-        {"close", [](QWidget *widget, int, int) { widget->close(); }},
-        {"enable", [](QWidget *widget, int, int) { widget->setEnabled(true); }},
-        {"disable", [](QWidget *widget, int, int) { widget->setEnabled(false); }},
-        {"raise", [](QWidget *widget, int, int) { widget->raise(); }},
-        {"repaint", [](QWidget *widget, int, int) { widget->repaint(); }},
-        {"resize", [](QWidget *widget, int x, int y) { widget->resize(x, y); }},
-        {"move", [](QWidget *widget, int x, int y) { widget->move(x, y); }},
-        {"grab", [](QWidget *widget, int, int) { widget->grab(QRect(0, 0, 300, 300)); }},
-        {"mirror", [](QWidget *widget, int x,
-                      int) { widget->setLayoutDirection(x > 300 ? Qt::RightToLeft : Qt::LeftToRight); }},
-        {"restyle", [](QWidget *widget, int, int) { widget->setStyleSheet(widget->styleSheet()); }},
+        {"show", [](QWidget *widget, QPoint) { widget->show(); }},
+        {"hide", [](QWidget *widget, QPoint) { widget->hide(); }},
+        {"close", [](QWidget *widget, QPoint) { widget->close(); }},
+        {"enable", [](QWidget *widget, QPoint) { widget->setEnabled(true); }},
+        {"disable", [](QWidget *widget, QPoint) { widget->setEnabled(false); }},
+        {"raise", [](QWidget *widget, QPoint) { widget->raise(); }},
+        {"repaint", [](QWidget *widget, QPoint) { widget->repaint(); }},
+        {"resize", [](QWidget *widget, QPoint pos) { widget->resize(pos.x(), pos.y()); }},
+        {"move", [](QWidget *widget, QPoint pos) { widget->move(pos); }},
+        {"grab", [](QWidget *widget, QPoint) { widget->grab(QRect(0, 0, 300, 300)); }},
+        {"mirror", [](QWidget *widget,
+                      QPoint pos) { widget->setLayoutDirection(Qt::LayoutDirection(pos.x() > 300)); }},
+        {"restyle", [](QWidget *widget, QPoint) { widget->setStyleSheet(widget->styleSheet()); }},
     };
     const int slot = random.below(Stage::slotCount());
     const Treatment &treatment = random.pick(treatments);
     const int x = random.between(-100, 700);
     const int y = random.between(-100, 500);
-    const QString text = QStringLiteral("%1 %2 %3,%4")
-                             .arg(QLatin1String(Stage::className(slot)), QLatin1String(treatment.name))
-                             .arg(x)
-                             .arg(y);
-    return {text, [=](Stage &stage) {
-                QWidget *control = stage.at(slot);
-                const Busy busy(control);
-                treatment.act(control, x, y);
-            }};
+    const auto act = [=](Stage &, QWidget *control) {
+        const Busy busy(control);
+        treatment.act(control, {x, y});
+    };
+    return deedTo(slot, act, QLatin1Char(' ') + QLatin1String(treatment.name));
 }
 
 /// The application's own window goes, and mostly comes back soon: hidden, it shows little.
@@ -126,19 +105,15 @@ Deed window(Random &random)
     const int state = random.below(12);
     const int width = random.between(0, 900);
     const int height = random.between(0, 700);
-    return {QStringLiteral("%1 %2,%3").arg(state).arg(width).arg(height), [=](Stage &stage) {
+    return {QString::number(state), [=](Stage &stage) {
                 QWidget *window = stage.window();
-                switch (state) {
-                case 0:
+                if (state == 0) {
                     window->hide();
-                    break;
-                case 1:
+                } else if (state == 1) {
                     window->showMinimized();
-                    break;
-                case 2:
+                } else if (state == 2) {
                     window->resize(width, height);
-                    break;
-                default:
+                } else {
                     window->showNormal();
                     window->activateWindow();
                 }
@@ -161,11 +136,10 @@ Deed Actions::sampling(Random &random)
     return random.oneIn(2) ? sample(random) : endSampler(random);
 }
 
-const std::vector<Action> &Actions::windows()
+std::vector<Action> Actions::windows()
 {
-    static const std::vector<Action> actions = {
+    return {
         {"openPopup", 15, openPopup}, {"sample", 6, sample}, {"endSampler", 12, endSampler},
         {"treat", 30, treat},         {"window", 8, window}, {"closeActivePopup", 10, closeActivePopup},
     };
-    return actions;
 }
