@@ -1,3 +1,4 @@
+#include "../surroundings.h"
 #include "actions.h"
 #include "busy.h"
 #include "finding.h"
@@ -119,6 +120,7 @@ private:
 
 int main(int argc, char **argv)
 {
+    forgetSurroundings();
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     const Application app(argc, argv);
