@@ -272,11 +272,14 @@ void TestColorControls::buttonSwatch()
         button.setEnabled(isEnabled);
         const QRgb around = isEnabled ? 0xffffffff : 0xffe0e0e0;
         const QImage picture = Support::picture(&button);
-        for (const QPoint &corner : {swatch.topLeft(), swatch.bottomRight()}) {
-            const QPoint inwards = corner == swatch.topLeft() ? QPoint(1, 1) : QPoint(-1, -1);
-            QCOMPARE(picture.pixel(corner - inwards), around);
-            QCOMPARE(picture.pixelColor(corner), QColor("#d3d3d3"));
-            QCOMPARE(picture.pixelColor(corner + inwards), QColor(Qt::red));
+        const std::pair<QPoint, QPoint> edges[] = {{{swatch.left(), 20}, {-1, 0}},
+                                                   {{swatch.right(), 20}, {1, 0}},
+                                                   {{50, swatch.top()}, {0, -1}},
+                                                   {{50, swatch.bottom()}, {0, 1}}};
+        for (const auto &[edge, outwards] : edges) {
+            QCOMPARE(picture.pixel(edge + outwards), around);
+            QCOMPARE(picture.pixelColor(edge), QColor("#d3d3d3"));
+            QCOMPARE(picture.pixelColor(edge - outwards), QColor(Qt::red));
         }
 
         button.setCurrentColor(QColor(255, 0, 0, 128));

@@ -59,13 +59,15 @@ void TestGallery::nothingIsClipped()
             QCoreApplication::processEvents();
             frame.grab();
 
-            const auto where = QStringLiteral("%1 at %2: ").arg(page.name).arg(rem).toUtf8();
+            const QString where = QStringLiteral("%1 at %2: ").arg(page.name).arg(rem);
             QString problem;
-            QVERIFY2(Support::lookForFaults(frame, &problem) > 50, where + problem.toUtf8());
-            QVERIFY2(problem.isEmpty(), where + problem.toUtf8());
+            QVERIFY2(Support::lookForFaults(frame, &problem) > 50, qPrintable(where));
+            QVERIFY2(problem.isEmpty(), qPrintable(where + problem));
             const auto *area = frame.findChild<QScrollArea *>();
-            QVERIFY2(area->widget()->width() <= area->viewport()->width(), where + "wider than its window");
-            QVERIFY2(!area->verticalScrollBar()->isVisibleTo(area), where + "scrolls at its full height");
+            QVERIFY2(area->widget()->width() <= area->viewport()->width(),
+                     qPrintable(where + QStringLiteral("wider than its window")));
+            QVERIFY2(!area->verticalScrollBar()->isVisibleTo(area),
+                     qPrintable(where + QStringLiteral("scrolls at its full height")));
         }
     }
 }

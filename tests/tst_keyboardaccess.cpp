@@ -185,6 +185,9 @@ void TestKeyboardAccess::gradientParts()
     QWidget::setTabOrder(stage.control, &after);
     QSignalSpy requests(stage.control, &TavikGradientBar::colorPopupRequest);
     type({Qt::Key_Space});
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, QString(), true);
+    QApplication::sendEvent(stage.control, &held);
+    QCOMPARE(requests.count(), 1);
     QCOMPARE(requests.takeFirst().at(1).value<QColor>(), QColor(Qt::white));
     type({Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Return});
     QCOMPARE(requests.takeFirst().at(1).value<QColor>(), QColor(Qt::black));

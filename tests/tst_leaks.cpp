@@ -77,7 +77,8 @@ void TestLeaks::controls()
             made->show();
             QCoreApplication::processEvents();
         });
-        QVERIFY2(bytes < 8, control.name + QByteArray(": ") + QByteArray::number(bytes));
+        const QByteArray found = control.name + QByteArray(": ") + QByteArray::number(bytes);
+        QVERIFY2(bytes < 8, found.constData());
     }
 }
 
