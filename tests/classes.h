@@ -7,50 +7,46 @@
 
 namespace Support {
 
-/// A class that shows something: how it is made from a parent alone, and what its meta-object has.
+/// A class that shows something, and how it is made from a parent alone.
 struct ControlClass
 {
     const char *name;
     QWidget *(*make)(QWidget *parent);
-    const QMetaObject *base;
-    int methods; // signals and slots
-    int properties;
 };
 
-template <class Class, class Base>
-ControlClass controlClass(const char *name, int methods = 0, int properties = 0)
+template <class Class>
+ControlClass controlClass(const char *name)
 {
-    const auto make = [](QWidget *parent) -> QWidget * { return new Class(parent); };
-    return {name, make, &Base::staticMetaObject, methods, properties};
+    return {name, [](QWidget *parent) -> QWidget * { return new Class(parent); }};
 }
 
 /// All of them.
 inline const std::vector<ControlClass> &controlClasses()
 {
     static const std::vector<ControlClass> classes = {
-        controlClass<TavikLabel, QLabel>("TavikLabel"),
-        controlClass<TavikButton, QPushButton>("TavikButton"),
-        controlClass<TavikButtonGroup, QWidget>("TavikButtonGroup", 2),
-        controlClass<TavikCheckBox, QCheckBox>("TavikCheckBox"),
-        controlClass<TavikRadioButton, QRadioButton>("TavikRadioButton"),
-        controlClass<TavikLineEdit, QLineEdit>("TavikLineEdit"),
-        controlClass<TavikSpinbox, QSpinBox>("TavikSpinbox"),
-        controlClass<TavikDoubleSpinbox, QDoubleSpinBox>("TavikDoubleSpinbox"),
-        controlClass<TavikComboBox, QComboBox>("TavikComboBox"),
-        controlClass<TavikFontFamilyComboBox, TavikComboBox>("TavikFontFamilyComboBox"),
-        controlClass<TavikSlider, QSlider>("TavikSlider"),
-        controlClass<TavikDial, QDial>("TavikDial"),
-        controlClass<TavikSeperateLine, QLabel>("TavikSeperateLine"),
-        controlClass<TavikContainer, QWidget>("TavikContainer"),
-        controlClass<TavikExpandable, QWidget>("TavikExpandable", 3, 1),
-        controlClass<TavikScrollArea, QScrollArea>("TavikScrollArea"),
-        controlClass<TavikImageList, QListWidget>("TavikImageList"),
-        controlClass<TavikColorButton, QPushButton>("TavikColorButton", 3),
-        controlClass<TavikColorPicker, QWidget>("TavikColorPicker", 1),
-        controlClass<TavikColorSilder, QSlider>("TavikColorSilder"),
-        controlClass<TavikColorWell, QWidget>("TavikColorWell", 2),
-        controlClass<TavikGradientBar, QWidget>("TavikGradientBar", 5),
-        controlClass<TavikColorPopup, QWidget>("TavikColorPopup", 19),
+        controlClass<TavikLabel>("TavikLabel"),
+        controlClass<TavikButton>("TavikButton"),
+        controlClass<TavikButtonGroup>("TavikButtonGroup"),
+        controlClass<TavikCheckBox>("TavikCheckBox"),
+        controlClass<TavikRadioButton>("TavikRadioButton"),
+        controlClass<TavikLineEdit>("TavikLineEdit"),
+        controlClass<TavikSpinbox>("TavikSpinbox"),
+        controlClass<TavikDoubleSpinbox>("TavikDoubleSpinbox"),
+        controlClass<TavikComboBox>("TavikComboBox"),
+        controlClass<TavikFontFamilyComboBox>("TavikFontFamilyComboBox"),
+        controlClass<TavikSlider>("TavikSlider"),
+        controlClass<TavikDial>("TavikDial"),
+        controlClass<TavikSeperateLine>("TavikSeperateLine"),
+        controlClass<TavikContainer>("TavikContainer"),
+        controlClass<TavikExpandable>("TavikExpandable"),
+        controlClass<TavikScrollArea>("TavikScrollArea"),
+        controlClass<TavikImageList>("TavikImageList"),
+        controlClass<TavikColorButton>("TavikColorButton"),
+        controlClass<TavikColorPicker>("TavikColorPicker"),
+        controlClass<TavikColorSilder>("TavikColorSilder"),
+        controlClass<TavikColorWell>("TavikColorWell"),
+        controlClass<TavikGradientBar>("TavikGradientBar"),
+        controlClass<TavikColorPopup>("TavikColorPopup"),
     };
     return classes;
 }

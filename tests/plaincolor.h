@@ -3,9 +3,7 @@
 
 #include <QGraphicsDropShadowEffect>
 #include <QImage>
-#include <QLinearGradient>
 #include <QPainter>
-#include <QSlider>
 #include <QWidget>
 
 /// The colour controls painted in the plain way, step by step with nothing kept: what ours must look like,
@@ -55,41 +53,6 @@ protected:
         painter.setPen(QPen(QBrush(color.valueF() > 0.5 ? Qt::black : Qt::white), 1.0, Qt::SolidLine,
                             Qt::SquareCap, Qt::BevelJoin));
         painter.drawEllipse(QRectF(w * color.saturationF() - 5, (1.0 - color.valueF()) * h - 5, 10, 10));
-    }
-};
-
-class Slider : public QSlider
-{
-public:
-    Slider(int width, int height)
-        : QSlider(Qt::Horizontal)
-    {
-        setFixedSize(width, height);
-    }
-
-    QVector<QColor> colors;
-    QBrush texture;
-
-protected:
-    void paintEvent(QPaintEvent *) override
-    {
-        QLinearGradient gradient(0, 0, orientation() == Qt::Horizontal, orientation() == Qt::Vertical);
-        gradient.setCoordinateMode(QGradient::StretchToDeviceMode);
-        for (int i = 0; i < colors.size(); ++i)
-            gradient.setColorAt(i / double(colors.size() - 1), colors.at(i));
-
-        QPainter painter(this);
-        const QRect groove(QPoint(3, 3), QPoint(width() - 10, height() - 7));
-        painter.setPen(QPen(QBrush(QColor("#404040")), 0.5, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
-        painter.setBrush(texture);
-        painter.drawRects(&groove, 1);
-        painter.setBrush(colors.isEmpty() ? QBrush() : QBrush(gradient));
-        painter.drawRects(&groove, 1);
-        const double share = (double(value()) - minimum()) / (maximum() - minimum());
-        const int top = (height() - 1) / 2 - (height() - 4) / 2;
-        painter.setBrush(QBrush(Qt::white));
-        painter.drawRect(QRect(QPoint(int(share * (width() - 12)), top),
-                               QPoint(int(share * (width() - 12)) + 6, top + height() - 4)));
     }
 };
 

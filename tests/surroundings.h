@@ -1,7 +1,7 @@
 #ifndef TAVIK_TESTS_SURROUNDINGS_H
 #define TAVIK_TESTS_SURROUNDINGS_H
 
-#include <QtGlobal>
+#include <QByteArray>
 
 /// Makes the process, and those that it starts, independent of the language and the scale of whoever runs it.
 /// For the beginning of main().

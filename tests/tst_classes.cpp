@@ -5,8 +5,7 @@
 
 #include <memory>
 
-/// What holds for every control: how it can be made, what its meta-object has, and what its style sheets
-/// are.
+/// What holds for every control: how it can be made, and what its style sheets are.
 class TestClasses : public TestCase
 {
     Q_OBJECT
@@ -47,11 +46,7 @@ void TestClasses::madeFromAParent()
         QWidget parent;
         const QWidget *control = each.make(&parent);
         QCOMPARE(control->parentWidget(), &parent);
-        const QMetaObject *meta = control->metaObject();
-        QCOMPARE(meta->className(), each.name);
-        QCOMPARE(meta->superClass(), each.base);
-        QCOMPARE(meta->methodCount() - meta->methodOffset(), each.methods);
-        QCOMPARE(meta->propertyCount() - meta->propertyOffset(), each.properties);
+        QCOMPARE(control->metaObject()->className(), each.name);
         const std::unique_ptr<QWidget> orphan(each.make(nullptr));
         QVERIFY(!orphan->parentWidget());
     }

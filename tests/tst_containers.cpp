@@ -10,14 +10,12 @@
 
 #include <QBoxLayout>
 #include <QPainter>
-#include <QPointer>
 #include <QPropertyAnimation>
 #include <QScrollBar>
 #include <QTemporaryDir>
 
 #include <sys/stat.h>
 
-#include <cmath>
 #include <memory>
 
 class TestContainers : public TestCase
@@ -32,7 +30,6 @@ private Q_SLOTS:
     void expandableReversesWhileRunning();
     void expandableOpenHeight();
     void expandablePresses();
-    void expandableWildHeights();
     void expandableDeletedWhileRunning();
     void scrollArea();
     void imageList();
@@ -83,11 +80,6 @@ void TestContainers::container()
     QCOMPARE(static_cast<const QLayoutItem *>(layout)->alignment(), Qt::AlignCenter);
     box.setSpacing(1.5);
     QCOMPARE(layout->spacing(), 27);
-    box.setContentMargin(12);
-    QCOMPARE(layout->contentsMargins(), QMargins(12, 12, 12, 12));
-    box.removeMargins();
-    QCOMPARE(layout->contentsMargins(), QMargins(0, 0, 0, 0));
-
     box.addWidget(new QWidget);
     box.addSpacing(12);
     QCOMPARE(layout->itemAt(1)->sizeHint().width(), 12);
@@ -120,30 +112,23 @@ void TestContainers::expandableParts()
 {
     LenConverter::m_rem = 18;
     TavikExpandable panel(QString(), 5.0, false);
-    QCOMPARE(panel.layout()->spacing(), 0);
-    QCOMPARE(panel.layout()->contentsMargins(), QMargins(0, 0, 0, 0));
     QCOMPARE(animationOf(panel)->duration(), 500);
     QCOMPARE(animationOf(panel)->easingCurve().type(), QEasingCurve::OutBack);
 
     const QWidget *bar = titleBar(panel);
     QCOMPARE(bar->minimumHeight(), 42);
-    QCOMPARE(bar->layout()->contentsMargins(), QMargins(0, 0, 0, 0));
     QCOMPARE(bar->layout()->itemAt(0)->sizeHint(), QSize(24, 0));
-    QCOMPARE(bar->layout()->itemAt(2)->expandingDirections(), Qt::Horizontal);
     QCOMPARE(panel.findChild<TavikButton *>()->size(), QSize(42, 42));
     QCOMPARE(bar->layout()->itemAt(4)->sizeHint(), QSize(16, 0));
     panel.setTitle(QStringLiteral("Other"));
     QCOMPARE(panel.findChild<TavikLabel *>()->text(), QStringLiteral("Other"));
 
     const QLayout *inner = content(panel)->layout()->itemAt(0)->widget()->layout();
-    QCOMPARE(inner->contentsMargins(), QMargins(1, 1, 1, 1));
     QCOMPARE(static_cast<const QLayoutItem *>(inner)->alignment(), Qt::AlignHCenter | Qt::AlignTop);
     panel.addWidget(new QWidget);
     QCOMPARE(inner->count(), 1);
     panel.setSpacing(0.5);
     QCOMPARE(inner->spacing(), 9);
-    panel.setRemWidth(20);
-    QCOMPARE(panel.maximumWidth(), 360);
 }
 
 void TestContainers::expandableToggles()
@@ -161,9 +146,10 @@ void TestContainers::expandableToggles()
     auto *button = panel.findChild<TavikButton *>();
     for (int round = 1; round <= 4; ++round) {
         const bool opens = round % 2 == 0;
-        const QImage arrow = button->icon().pixmap(16).toImage();
         button->click();
-        QVERIFY(button->icon().pixmap(16).toImage() != arrow);
+        const QIcon arrow(opens ? QStringLiteral(":/Expandable/images/expanded.svg")
+                                : QStringLiteral(":/Expandable/images/unexpanded.svg"));
+        QCOMPARE(button->icon().pixmap(16).toImage(), arrow.pixmap(16).toImage());
         QCOMPARE(stateAtStart, QAbstractAnimation::Stopped); // it is told before the run
         QCOMPARE(started.count(), round);
         finish(panel);
@@ -269,29 +255,8 @@ void TestContainers::expandablePresses()
     }
 }
 
-void TestContainers::expandableWildHeights()
-{
-    allowWarning(QStringLiteral("^QWidget::set(Min|Max)imumSize: .*"));
-    for (const double height : {-3.0, std::nan(""), 1e300, -1e300}) {
-        TavikExpandable panel(QString(), height, nullptr);
-        panel.show();
-        animationOf(panel)->setCurrentTime(250);
-        panel.unexpand();
-        finish(panel);
-        QVERIFY(content(panel)->maximumHeight() >= 0);
-    }
-}
-
 void TestContainers::expandableDeletedWhileRunning()
 {
-    auto *window = new QWidget;
-    auto *panel = new TavikExpandable(QString(), 5.0, window);
-    auto *button = panel->findChild<TavikButton *>();
-    connect(button, &QAbstractButton::clicked, window, &QObject::deleteLater);
-    button->click();
-    const QPointer<QPropertyAnimation> animation = animationOf(*panel);
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QVERIFY(!animation);
     // One that closes before it has begun to open would call itself finished while it goes.
     auto early = std::make_unique<TavikExpandable>(QString(), 5.0, nullptr);
     early->unexpand();
@@ -312,17 +277,11 @@ void TestContainers::scrollArea()
     area.show();
     QVERIFY(!area.horizontalScrollBar()->isVisible());
     QVERIFY(area.verticalScrollBar()->isVisible());
-    area.setRemHeight(std::nan(""));
-    QCOMPARE(area.maximumHeight(), 0);
 }
 
 void TestContainers::imageList()
 {
     TavikImageList list;
-    QCOMPARE(list.selectionMode(), QAbstractItemView::ExtendedSelection);
-    QCOMPARE(list.viewMode(), QListView::IconMode);
-    QCOMPARE(list.movement(), QListView::Static);
-    QCOMPARE(list.resizeMode(), QListView::Adjust);
     list.setRemWidth(30);
     QCOMPARE(list.maximumWidth(), 360);
     list.addImage(QStringLiteral(":/Color/images/color.svg"));

@@ -16,10 +16,8 @@ class TestGallery : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void nothingIsClipped_data();
     void nothingIsClipped();
     void picturesWithoutADisplay();
-    void badArguments_data();
     void badArguments();
 };
 
@@ -47,36 +45,31 @@ Outcome runGallery(const QStringList &arguments)
 
 } // namespace
 
-void TestGallery::nothingIsClipped_data()
-{
-    QTest::addColumn<QString>("page");
-    QTest::addColumn<int>("rem");
-    for (const PageEntry &page : pageTable()) {
-        for (int rem : Support::rems)
-            QTest::addRow("%s at %d", qPrintable(page.name), rem) << page.name << rem;
-    }
-}
-
 void TestGallery::nothingIsClipped()
 {
-    QFETCH(QString, page);
-    QFETCH(int, rem);
     Look::apply(*qApp);
-    Look::setRem(rem);
-    Frame frame(page);
-    PicturesWriter::settle(frame);
-    frame.resize(Frame::goodSize());
-    frame.grab();
-    frame.resize(frame.width(), frame.fullHeight());
-    QCoreApplication::processEvents();
-    frame.grab();
+    for (const PageEntry &page : pageTable()) {
+        for (const int rem : Support::rems) {
+            Look::setRem(rem);
+            Frame frame(page.name);
+            PicturesWriter::settle(frame);
+            frame.resize(Frame::goodSize());
+            frame.grab();
+            frame.resize(frame.width(), frame.fullHeight());
+            QCoreApplication::processEvents();
+            frame.grab();
 
-    QString problem;
-    QVERIFY(Support::lookForFaults(frame, &problem) > 50);
-    QVERIFY2(problem.isEmpty(), qPrintable(problem));
-    const auto *area = frame.findChild<QScrollArea *>();
-    QVERIFY2(area->widget()->width() <= area->viewport()->width(), "the page is wider than its window");
-    QVERIFY2(!area->verticalScrollBar()->isVisibleTo(area), "the page scrolls at its full height");
+            const QString where = QStringLiteral("%1 at %2: ").arg(page.name).arg(rem);
+            QString problem;
+            QVERIFY2(Support::lookForFaults(frame, &problem) > 50, qPrintable(where));
+            QVERIFY2(problem.isEmpty(), qPrintable(where + problem));
+            const auto *area = frame.findChild<QScrollArea *>();
+            QVERIFY2(area->widget()->width() <= area->viewport()->width(),
+                     qPrintable(where + QStringLiteral("wider than its window")));
+            QVERIFY2(!area->verticalScrollBar()->isVisibleTo(area),
+                     qPrintable(where + QStringLiteral("scrolls at its full height")));
+        }
+    }
 }
 
 void TestGallery::picturesWithoutADisplay()
@@ -97,30 +90,26 @@ void TestGallery::picturesWithoutADisplay()
     QVERIFY(!QImage(directory.filePath(QStringLiteral("samples/tavikbutton.png"))).isNull());
 }
 
-void TestGallery::badArguments_data()
-{
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<int>("exitCode");
-    QTest::addColumn<QString>("message");
-    QTest::newRow("page") << QStringList{QStringLiteral("--page"), QStringLiteral("nowhere")} << 2
-                          << QStringLiteral("labels, buttons");
-    QTest::newRow("rem") << QStringList{QStringLiteral("--rem"), QStringLiteral("11")} << 2
-                         << QStringLiteral("10, 12, 18, 24, 30");
-    QTest::newRow("no directory") << QStringList{QStringLiteral("--pictures"), QString()} << 2
-                                  << QStringLiteral("--pictures needs a directory");
-    QTest::newRow("directory") << QStringList{QStringLiteral("--pictures"), QStringLiteral("/dev/null/in")}
-                               << 1 << QStringLiteral("/dev/null/in");
-}
-
 void TestGallery::badArguments()
 {
-    QFETCH(QStringList, arguments);
-    QFETCH(QString, message);
-    // The headless platform, for the message is there before any window.
-    const Outcome outcome =
-        runGallery(arguments + QStringList{QStringLiteral("-platform"), QStringLiteral("offscreen")});
-    QTEST(outcome.exitCode, "exitCode");
-    QVERIFY2(outcome.output.contains(message), qPrintable(outcome.output));
+    const struct
+    {
+        QString arguments;
+        int exitCode;
+        QString message;
+    } rows[] = {
+        {QStringLiteral("--page nowhere"), 2, QStringLiteral("labels, buttons")},
+        {QStringLiteral("--rem 11"), 2, QStringLiteral("10, 12, 18, 24, 30")},
+        {QStringLiteral("--pictures="), 2, QStringLiteral("--pictures needs a directory")},
+        {QStringLiteral("--pictures /dev/null/in"), 1, QStringLiteral("/dev/null/in")},
+    };
+    for (const auto &row : rows) {
+        // On the headless platform, for the message is there before any window.
+        const Outcome outcome =
+            runGallery((row.arguments + QStringLiteral(" -platform offscreen")).split(QLatin1Char(' ')));
+        QCOMPARE(outcome.exitCode, row.exitCode);
+        QVERIFY2(outcome.output.contains(row.message), qPrintable(outcome.output));
+    }
 }
 
 TAVIK_TEST_MAIN(TestGallery)

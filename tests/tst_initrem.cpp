@@ -13,29 +13,18 @@ class TestInitRem : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void bands_data();
     void bands();
 };
 
-void TestInitRem::bands_data()
-{
-    QTest::addColumn<int>("width");
-    QTest::addColumn<int>("rem");
-    const struct
-    {
-        int width;
-        int rem;
-    } rows[] = {{1366, 10}, {1600, 10}, {1601, 12}, {1920, 12}, {2048, 12}, {2049, 18},
-                {2560, 18}, {2561, 24}, {3200, 24}, {3201, 30}, {3840, 30}};
-    for (const auto &row : rows)
-        QTest::addRow("%d", row.width) << row.width << row.rem;
-}
-
 void TestInitRem::bands()
 {
-    QFETCH(int, width);
-    const XServer server(width, 900);
-    QTEST(XServer::outputOfThisProgram(QStringLiteral("--print-rem")).toInt(), "rem");
+    const std::pair<int, int> rows[] = {{1366, 10}, {1600, 10}, {1601, 12}, {1920, 12},
+                                        {2048, 12}, {2049, 18}, {2560, 18}, {2561, 24},
+                                        {3200, 24}, {3201, 30}, {3840, 30}};
+    for (const auto &[width, rem] : rows) {
+        const XServer server(width, 900);
+        QCOMPARE(XServer::outputOfThisProgram(QStringLiteral("--print-rem")).toInt(), rem);
+    }
 }
 
 int main(int argc, char **argv)

@@ -5,10 +5,7 @@
 #include <Tavik/TavikButtonGroup>
 
 #include <QBoxLayout>
-#include <QPointer>
 #include <QRadioButton>
-
-#include <memory>
 
 class TestTavikButtonGroup : public TestCase
 {
@@ -22,7 +19,6 @@ private Q_SLOTS:
     void clicks();
     void stateWhenNothingIsReported();
     void setCheckedId();
-    void ownership();
     void paintsItsBackground();
 };
 
@@ -201,18 +197,6 @@ void TestTavikButtonGroup::setCheckedId()
     button(group, 2)->click();
     QCOMPARE(group.checkedId(), -1);
     QCOMPARE(spy.count(), 1);
-}
-
-void TestTavikButtonGroup::ownership()
-{
-    auto group = std::make_unique<TavikButtonGroup>();
-    const QPointer<TavikButton> text = group->addTextButton(QStringLiteral("text"));
-    QCOMPARE(text->parentWidget(), group.get());
-    delete group->addRadioButton(QStringLiteral("radio"));
-    QVERIFY(group->isNoButtonChecked());
-    group->setCheckedId(1);
-    group.reset();
-    QVERIFY(!text);
 }
 
 void TestTavikButtonGroup::paintsItsBackground()

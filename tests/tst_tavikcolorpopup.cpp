@@ -11,7 +11,6 @@
 
 #include <QDialog>
 #include <QLayout>
-#include <QMetaMethod>
 #include <QPointer>
 #include <QScreen>
 
@@ -25,7 +24,6 @@ class TestTavikColorPopup : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void methodsInOrder();
     void contentsFit();
     void placement();
     void showsAColour();
@@ -39,8 +37,8 @@ private Q_SLOTS:
     void samplerOverAModalDialog();
     void samplerIsDeletedByOthers();
     void samplerStartsWhileAnotherDoes();
-    void deletedInItsOwnSignal();
     void sameShadow();
+    void shadowOnAnotherScreen();
 };
 
 namespace {
@@ -92,10 +90,8 @@ QVector<QImage> scenes(bool withPlainShadow)
     };
     popup.showColorPopup(QPoint(200, -2000), QColor(20, 90, 200));
     take();
-    for (int step = 0; step < 5; ++step) {
-        picker(popup)->updateSelectedColor(20 * step + 5, 10 * step + 5);
-        take();
-    }
+    picker(popup)->updateSelectedColor(65, 35);
+    take();
     slider(popup, TavikColorSilder::Hue)->setValue(200);
     take();
     popup.findChild<TavikColorWell *>()->addColor(QColor(255, 0, 0, 90));
@@ -110,34 +106,16 @@ QVector<QImage> scenes(bool withPlainShadow)
 bool areAlike(const QImage &one, const QImage &other)
 {
     int differing = 0;
-    for (int y = 0; y < one.height(); ++y) {
-        for (int x = 0; x < one.width(); ++x) {
-            const QRgb p = one.pixel(x, y);
-            const QRgb q = other.pixel(x, y);
-            differing += p != q;
-            for (const int shift : {0, 8, 16, 24}) {
-                if (qAbs(int(p >> shift & 0xff) - int(q >> shift & 0xff)) > 2)
-                    return false;
-            }
-        }
+    int greatest = 0;
+    for (int i = 0; i < int(one.sizeInBytes()); ++i) {
+        const int difference = qAbs(one.constBits()[i] - other.constBits()[i]);
+        differing += difference > 0;
+        greatest = qMax(greatest, difference);
     }
-    return differing <= 10;
+    return one.size() == other.size() && differing <= 40 && greatest <= 2;
 }
 
 } // namespace
-
-void TestTavikColorPopup::methodsInOrder()
-{
-    const QMetaObject &meta = TavikColorPopup::staticMetaObject;
-    QByteArrayList names;
-    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)
-        names.append(meta.method(i).name());
-    QCOMPARE(names.join(' '),
-             QByteArray("colorChanged colorPopupHide setCurrentColor showColorPopup onHueChanged "
-                        "onAlphaChanged onSatValChanged onHexEditChanged onREditChanged onGEditChanged "
-                        "onBEditChanged onAEditChanged onCEditChanged onMEditChanged onYEditChanged "
-                        "onColorWellSelected onAddColorWellRequested onClickPickColor onPickColorChanged"));
-}
 
 void TestTavikColorPopup::contentsFit()
 {
@@ -149,8 +127,6 @@ void TestTavikColorPopup::contentsFit()
         QVERIFY(popup.layout()->minimumSize().height() <= popup.height());
         QCOMPARE(edit(popup, Hex)->size(), LenConverter::iniRemToPxSz(60, 20));
         QCOMPARE(edit(popup, Y)->size(), LenConverter::iniRemToPxSz(28, 20));
-        const Qt::WindowFlags flags = Qt::Popup | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint;
-        QCOMPARE(popup.windowFlags() & flags, flags);
     }
 }
 
@@ -333,8 +309,11 @@ void TestTavikColorPopup::palette()
     well->findChild<TavikButton *>()->click();
     QCOMPARE(changed.count(), 0);
     popup.setCurrentColor(Qt::red);
+    QColor seen;
+    connect(&popup, &TavikColorPopup::colorChanged, this, [&] { seen = popup.currentColor(); });
     QTest::mousePress(well, Qt::RightButton, {}, QPoint(5, 5));
     QCOMPARE(changed.count(), 1);
+    QCOMPARE(seen, popup.currentColor());                         // it is set before it is told
     QCOMPARE(popup.currentColor().rgba(), qRgba(10, 20, 30, 40)); // with its alpha
     QCOMPARE(edit(popup, A)->text(), QStringLiteral("40"));
 }
@@ -420,18 +399,6 @@ void TestTavikColorPopup::samplerStartsWhileAnotherDoes()
     QCOMPARE(std::count_if(windows.begin(), windows.end(), isSampler), 1);
 }
 
-void TestTavikColorPopup::deletedInItsOwnSignal()
-{
-    const QPointer<TavikColorPopup> popup(new TavikColorPopup);
-    connect(popup, &TavikColorPopup::colorChanged, popup, &QObject::deleteLater);
-    popup->showColorPopup(QPoint(200, 10), Qt::red);
-    const QPointer<QWidget> running = startSampler(*popup);
-    edit(*popup, R)->setText(QStringLiteral("7"));
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QVERIFY(!popup);
-    QVERIFY(!running);
-}
-
 void TestTavikColorPopup::sameShadow()
 {
     for (const int rem : Support::rems) {
@@ -442,6 +409,30 @@ void TestTavikColorPopup::sameShadow()
         for (int i = 0; i < plain.size(); ++i)
             QVERIFY2(areAlike(ours.at(i), plain.at(i)), qPrintable(QString::number(i)));
     }
+}
+
+void TestTavikColorPopup::shadowOnAnotherScreen()
+{
+    struct Popup : TavikColorPopup
+    {
+        int ratio = 1;
+        int metric(PaintDeviceMetric of) const override
+        {
+            return of == PdmDevicePixelRatioScaled ? int(ratio * devicePixelRatioFScale())
+                                                   : TavikColorPopup::metric(of);
+        }
+    };
+    Popup moved;
+    Popup made;
+    made.ratio = 2;
+    for (Popup *popup : {&moved, &made}) {
+        popup->showColorPopup(QPoint(200, 10), Qt::red);
+        popup->hide();
+    }
+    moved.ratio = 2;
+    moved.showColorPopup(QPoint(200, 10), Qt::red);
+    made.showColorPopup(QPoint(200, 10), Qt::red);
+    QCOMPARE(Support::picture(&moved), Support::picture(&made));
 }
 
 TAVIK_TEST_MAIN(TestTavikColorPopup)
