@@ -23,10 +23,7 @@ void ColoursPage::addWiring()
                        "        [=](const QPoint &pos, const QColor &color) {\n"
                        "    disconnect(m_answer); // of the control that asked before\n"
                        "    m_answer = connect(popup, &TavikColorPopup::colorChanged, fill,\n"
-                       "                       [=](const QColor &chosen) {\n"
-                       "        if (chosen.isValid()) // a half-typed hexadecimal value is not\n"
-                       "            fill->setCurrentColor(chosen);\n"
-                       "    });\n"
+                       "        [=](QColor c) { if (c.isValid()) fill->setCurrentColor(c); });\n"
                        "    popup->showColorPopup(pos, color);\n"
                        "});"));
 }
