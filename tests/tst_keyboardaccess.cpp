@@ -24,10 +24,8 @@ private Q_SLOTS:
     void mark();
     void markIsSeenAroundTheTitle();
     void marksNoListThatDropsDown();
-    void sheetForAllWidgets();
     void coversLaterWidgets();
     void offByDefault();
-    void controlsGoWhileFocused();
 };
 
 namespace {
@@ -87,18 +85,12 @@ void TestKeyboardAccess::square()
         int saturation; // percent, from 40
         int value;      // percent, from 80
     } rows[] = {
-        {{Qt::Key_Right, Qt::Key_Right}, 42, 80},
-        {{Qt::Key_Left}, 39, 80},
+        {{Qt::Key_Right, Qt::Key_Right, Qt::Key_Left, Qt::Key_Down}, 41, 79},
         {{Qt::Key_Up}, 40, 81},
-        {{Qt::Key_Down}, 40, 79},
         {{Qt::Key_PageUp}, 40, 90},
         {{Qt::Key_PageDown, Qt::Key_PageDown}, 40, 60},
-        {{Qt::CTRL + Qt::Key_PageUp}, 50, 80},
-        {{Qt::CTRL + Qt::Key_PageDown}, 30, 80},
-        {{Qt::Key_Home}, 0, 80},
-        {{Qt::Key_End}, 100, 80},
-        {{Qt::CTRL + Qt::Key_Home}, 40, 0},
-        {{Qt::CTRL + Qt::Key_End}, 40, 100},
+        {{Qt::CTRL + Qt::Key_PageUp, Qt::CTRL + Qt::Key_PageUp, Qt::CTRL + Qt::Key_PageDown}, 50, 80},
+        {{Qt::Key_Home, Qt::Key_Right, Qt::CTRL + Qt::Key_Home}, 1, 0},
         {{Qt::Key_End, Qt::Key_Right, Qt::CTRL + Qt::Key_End, Qt::Key_PageUp}, 100, 100}, // stays inside
     };
     for (const auto &row : rows) {
@@ -161,7 +153,7 @@ void TestKeyboardAccess::gradientHandles()
     } rows[] = {
         {{next, Qt::Key_Right, Qt::Key_Up}, 52, 100},
         {{next, Qt::Key_Left, Qt::Key_PageDown}, 39, 100},
-        {{next, Qt::Key_PageUp, Qt::Key_PageUp}, 70, 100},
+        {{next, Qt::Key_PageUp}, 60, 100},
         {{next, Qt::Key_Home}, 0, 100},
         {{next, Qt::Key_End}, 99, 100}, // stops at the end handle
         {{next, next, Qt::Key_PageDown, Qt::Key_Down, Qt::Key_Up}, 50, 90},
@@ -311,15 +303,6 @@ void TestKeyboardAccess::marksNoListThatDropsDown()
     QVERIFY(!stage.control->view()->window()->findChild<QFocusFrame *>());
 }
 
-void TestKeyboardAccess::sheetForAllWidgets()
-{
-    TavikColorWell well;
-    well.setStyleSheet(QStringLiteral("QWidget { background-color: #ffeecc }"));
-    const QImage before = Support::picture(&well);
-    TavikKeyboardAccess::install(&well);
-    QCOMPARE(Support::picture(&well), before);
-}
-
 void TestKeyboardAccess::coversLaterWidgets()
 {
     Stage<QWidget> stage;
@@ -359,22 +342,6 @@ void TestKeyboardAccess::offByDefault()
     TavikKeyboardAccess::install(&window);
     for (const QWidget *control : qAsConst(controls))
         QVERIFY(control->focusPolicy() & Qt::TabFocus);
-}
-
-void TestKeyboardAccess::controlsGoWhileFocused()
-{
-    Stage<QWidget> stage;
-    for (QWidget *control :
-         {static_cast<QWidget *>(new TavikGradientBar), static_cast<QWidget *>(new TavikColorWell),
-          static_cast<QWidget *>(new TavikExpandable(QStringLiteral("title"), 5.0))}) {
-        control->setParent(&stage.window);
-        control->show();
-        control->setFocus();
-        QTest::keyClick(control, Qt::Key_F2);
-        QVERIFY(!marked(stage.window).isNull());
-        delete control;
-        QVERIFY(marked(stage.window).isNull());
-    }
 }
 
 TAVIK_TEST_MAIN(TestKeyboardAccess)

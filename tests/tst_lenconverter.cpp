@@ -19,7 +19,6 @@ private Q_SLOTS:
     void textForms();
     void pixelsThereAndBack();
     void screenFacts();
-    void fontHint();
 };
 
 // What m_rem is before any test function and any widget.
@@ -94,14 +93,6 @@ void TestLenConverter::screenFacts()
     QCOMPARE(QSize(LenConverter::deviceWidth(), LenConverter::deviceHeight()), available);
     QCOMPARE(LenConverter::designReference(), 1920);
     QCOMPARE(LenConverter::scale(), available.width() / 1920.0);
-}
-
-void TestLenConverter::fontHint()
-{
-    QWidget widget;
-    TypographyTool::setFontHint(&widget);
-    QCOMPARE(widget.font().hintingPreference(), QFont::PreferVerticalHinting);
-    TypographyTool::setFontHint(nullptr);
 }
 
 TAVIK_TEST_MAIN(TestLenConverter)

@@ -72,6 +72,16 @@ void TestPictures::drawings()
         sources << source;
     }
     QCOMPARE(sources.size(), 26); // only the three sets' pressed drawings are their hovered ones
+
+    const std::pair<const char *, QPoint> tips[] = {{"SpinboxArrow/images/arrow_up", {50, 25}},
+                                                    {"SpinboxArrow/images/arrow_down", {50, 75}},
+                                                    {"Expandable/images/expanded", {50, 75}},
+                                                    {"Expandable/images/unexpanded", {27, 50}}};
+    for (const auto &[path, tip] : tips) {
+        const QImage picture =
+            QIcon(QStringLiteral(":/%1.svg").arg(QLatin1String(path))).pixmap(100).toImage();
+        QVERIFY2(qAlpha(picture.pixel(tip)) && !qAlpha(picture.pixel(QPoint(100, 100) - tip)), path);
+    }
 }
 
 void TestPictures::storedAsTheyAre()

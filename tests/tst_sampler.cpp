@@ -160,6 +160,12 @@ void TestSampler::picks()
     QFETCH(QPoint, pointer);
     QCursor::setPos(pointer);
     const Run atOnce;
+    int told = 0; // while the window is still there
+    const auto count = [&](const Run &run) {
+        connect(run.window.get(), &Screenshot::screenColor, this,
+                [&told, window = run.window.get()] { told += window->isVisible(); });
+    };
+    count(atOnce);
     QTEST(atOnce.frame->pos(), "frame");
     atOnce.press();
     QCOMPARE(atOnce.picked(), KnownPicture::colorAt(pointer));
@@ -167,11 +173,13 @@ void TestSampler::picks()
 
     QCursor::setPos(700, 700);
     Run moved;
+    count(moved);
     QVERIFY(moved.moveTo(pointer));
     QTEST(moved.frame->pos(), "frame");
     QTest::keyPress(moved.window.get(), Qt::Key_Alt);
     QCOMPARE(moved.picked(), KnownPicture::colorAt(pointer));
     QVERIFY(!moved.window->isVisible());
+    QCOMPARE(told, 2);
 }
 
 void TestSampler::othersDoNothing()

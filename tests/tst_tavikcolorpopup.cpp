@@ -14,7 +14,6 @@
 #include <QPointer>
 #include <QScreen>
 
-#include <algorithm>
 #include <limits>
 
 using Counts = QVector<int>;
@@ -35,8 +34,6 @@ private Q_SLOTS:
     void palette();
     void samplerRuns();
     void samplerOverAModalDialog();
-    void samplerIsDeletedByOthers();
-    void samplerStartsWhileAnotherDoes();
     void sameShadow();
     void shadowOnAnotherScreen();
 };
@@ -202,13 +199,10 @@ void TestTavikColorPopup::typing_data()
     // The partner cuts "-744" to three characters, and writes 255 + 74 back.
     row("overlong", R, "999", {1, 1, 2}, "ff3232 329 50 50 40 -74 205 205");
     row("green", G, "12", {1, 1}, "320c32 50 12 50 40 205 243 205");
-    row("blue", B, "9", {1}, "323209 50 50 9 40 205 205 246");
     row("cyan goes by red", C, "5", {1}, "fa3232 250 50 50 40 5 205 205");
     row("magenta emptied", M, "<", {1}, "32ff32 50 255 50 40 205 0 205");
-    row("yellow", Y, "255", {1, 1, 1}, "323200 50 50 0 40 205 205 255");
     row("alpha stays empty", A, "<", {1}, "323232 50 50 50  205 205 205");
     row("six digits", Hex, "<0ac81e", {1, 1, 1, 1, 1, 1, 1}, "0ac81e 10 200 30 40 245 55 225");
-    row("three are short for six", Hex, "<abc", {1, 1, 1, 1}, "abc 170 187 204 40 85 68 51");
     row("four are none", Hex, "<abcd", {1, 1, 1, 1, 1}, "abcd 0 0 0 40 255 255 255");
 }
 
@@ -364,39 +358,6 @@ void TestTavikColorPopup::samplerOverAModalDialog()
     const QWidget *sampler = startSampler(popup);
     QTest::keyClick(sampler->windowHandle(), Qt::Key_Escape); // as the window system tells of a key
     QVERIFY(!sampler->isVisible());
-}
-
-/// As an application does that deletes all its windows.
-void TestTavikColorPopup::samplerIsDeletedByOthers()
-{
-    TavikColorPopup popup;
-    const QSignalSpy hidden(&popup, &TavikColorPopup::colorPopupHide);
-    for (int i = 0; i < 2; ++i) {
-        popup.show();
-        delete startSampler(popup);
-    }
-    popup.show();
-    popup.hide();
-    QCOMPARE(hidden.count(), 0); // there is no sampler any more
-}
-
-void TestTavikColorPopup::samplerStartsWhileAnotherDoes()
-{
-    TavikColorPopup popup;
-    popup.show();
-    QTest::keyClick(startSampler(popup), Qt::Key_Escape);
-    popup.show();
-    QMetaObject::Connection once;
-    once = connect(&popup, &TavikColorPopup::colorPopupHide, &popup, [&] {
-        disconnect(once);
-        startSampler(popup);
-    });
-    startSampler(popup); // closes the popup, which tells so
-    QVERIFY(!once);
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    const auto isSampler = [](const QWidget *window) { return window->inherits("Screenshot"); };
-    const QWidgetList windows = QApplication::topLevelWidgets();
-    QCOMPARE(std::count_if(windows.begin(), windows.end(), isSampler), 1);
 }
 
 void TestTavikColorPopup::sameShadow()

@@ -1,7 +1,27 @@
 #include "tavikfontfamilycombobox.h"
 
+#include <QAbstractItemView>
+#include <QApplication>
 #include <QCompleter>
 #include <QFontDatabase>
+
+namespace {
+
+/// Deletes a completer, at once unless it may be what has called: while its list is open it hands on what is
+/// typed, and goes on afterwards.
+void retire(QCompleter *completer)
+{
+    const QWidget *open = QApplication::activePopupWidget();
+    if (!open || open != static_cast<QWidget *>(completer->popup())) { // asking for its list makes one
+        delete completer;
+        return;
+    }
+    completer->popup()->hide();
+    completer->setParent(nullptr);
+    completer->deleteLater();
+}
+
+} // namespace
 
 TavikFontFamilyComboBox::TavikFontFamilyComboBox(QWidget *parent)
     : TavikComboBox(Editable, parent)
@@ -19,7 +39,8 @@ void TavikFontFamilyComboBox::initFontFamilies()
 
     auto *newCompleter = new QCompleter(families, this);
     newCompleter->setCaseSensitivity(Qt::CaseInsensitive);
-    delete completer();
+    if (completer())
+        retire(completer());
     setCompleter(newCompleter);
     setInsertPolicy(NoInsert);
 }

@@ -47,7 +47,8 @@ bool hasWindow(const QWidget *widget)
 bool toolkitNeeds(const QWidget *widget, const QObject *object, QEvent::Type event)
 {
     switch (event) {
-    case QEvent::Show: // to a child of a widget that shows all its children
+    case QEvent::Show: // to a child of a widget that shows or hides all its children
+    case QEvent::Hide:
         return isInside(object, widget->parentWidget());
     case QEvent::FocusOut: // also to a button, which then tells of its release
     case QEvent::FocusIn:

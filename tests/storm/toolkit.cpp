@@ -78,19 +78,26 @@ void heldButton()
     form.edit.setFocus();
 }
 
-/// A child goes that was to be shown after its sibling.
+/// A child goes that was to be shown, or to be hidden, after its sibling.
+template <QEvent::Type type>
 void nextSibling()
 {
     struct Sibling : QWidget
     {
         using QWidget::QWidget;
-        void showEvent(QShowEvent *) override { delete next; }
+        bool event(QEvent *event) override
+        {
+            if (event->type() == type)
+                delete next;
+            return QWidget::event(event);
+        }
         QWidget *next = nullptr;
     };
     QWidget window;
     auto *sibling = new Sibling(&window);
     sibling->next = new QWidget(&window);
     window.show();
+    window.hide();
 }
 
 /// A double click into what an input method has not finished puts the cursor behind the text; the next key warns.
@@ -113,8 +120,13 @@ int main(int argc, char **argv)
 {
     const QApplication app(argc, argv);
     const std::map<QByteArray, void (*)()> faults = {
-        {"nextFocus", nextFocus},   {"nextWindow", nextWindow},   {"closingPopup", closingPopup},
-        {"heldButton", heldButton}, {"nextSibling", nextSibling}, {"cursorBehindText", cursorBehindText},
+        {"nextFocus", nextFocus},
+        {"nextWindow", nextWindow},
+        {"closingPopup", closingPopup},
+        {"heldButton", heldButton},
+        {"nextShown", nextSibling<QEvent::Show>},
+        {"nextHidden", nextSibling<QEvent::Hide>},
+        {"cursorBehindText", cursorBehindText},
     };
     const auto fault = faults.find(argc > 1 ? argv[1] : "");
     if (fault == faults.end())
