@@ -24,7 +24,6 @@ class TestInputs : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void hints();
     void spinboxes();
     void wheelEnds();
     void comboBoxes();
@@ -32,18 +31,6 @@ private Q_SLOTS:
     void sliderUnits();
     void rule();
 };
-
-void TestInputs::hints()
-{
-    TavikCheckBox check;
-    TavikRadioButton radio;
-    TavikSpinbox whole;
-    TavikDoubleSpinbox fraction;
-    TavikComboBox combo(TavikComboBox::Editable);
-    for (const QWidget *widget :
-         QWidgetList{&check, &radio, &whole, &fraction, &combo, combo.view(), combo.lineEdit()})
-        QCOMPARE(widget->font().hintingPreference(), QFont::PreferVerticalHinting);
-}
 
 void TestInputs::spinboxes()
 {
@@ -125,7 +112,11 @@ void TestInputs::fontFamilies()
     QWidget *list = QApplication::activePopupWidget();
     QVERIFY(list);
     connect(box.lineEdit(), &QLineEdit::textEdited, &box, &TavikFontFamilyComboBox::initFontFamilies);
-    QTest::keyClick(list, Qt::Key_Backspace);
+    QTimer::singleShot(0, list, [list] {
+        QTest::keyClick(list, Qt::Key_Backspace);
+        QCoreApplication::exit();
+    });
+    QCoreApplication::exec();
     QCOMPARE(box.findChildren<QCompleter *>().size(), 1);
     box.setEditable(false);
     box.initFontFamilies(); // without a field there is nothing to complete

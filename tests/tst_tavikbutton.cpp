@@ -124,8 +124,6 @@ void TestTavikButton::sizes()
     TavikButton button;
     button.setRemSize(8, 2.5);
     QCOMPARE(button.size(), QSize(96, 30));
-    button.setRemSize(QSizeF(4, 3));
-    QCOMPARE(button.maximumSize(), QSize(48, 36));
     button.setRemWidth(5);
     button.setRemHeight(6);
     QCOMPARE(button.size(), QSize(60, 72));

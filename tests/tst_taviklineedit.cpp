@@ -1,6 +1,5 @@
 #include "support.h"
 
-#include <Tavik/LenConverter>
 #include <Tavik/TavikLineEdit>
 
 #include <QValidator>
@@ -17,7 +16,6 @@ private Q_SLOTS:
     void rewriteInACommaLocale();
     void setContent_data();
     void setContent();
-    void fonts();
     void intRange();
 };
 
@@ -144,16 +142,6 @@ void TestTavikLineEdit::setContent()
         edit.setContent(value.toString());
     QTEST(edit.text(), "text");
     QCOMPARE(changed.count(), 1);
-}
-
-void TestTavikLineEdit::fonts()
-{
-    LenConverter::m_rem = 18;
-    TavikLineEdit edit;
-    edit.setFontRemSz(1.5);
-    QVERIFY(edit.styleSheet().contains(QLatin1String(";font-size: 27px;")));
-    edit.setFontPxSz(11);
-    QVERIFY(edit.styleSheet().contains(QLatin1String(";font-size: 11px;")));
 }
 
 void TestTavikLineEdit::intRange()

@@ -1,22 +1,19 @@
 #include "tavikfontfamilycombobox.h"
 
-#include <QAbstractItemView>
-#include <QApplication>
 #include <QCompleter>
 #include <QFontDatabase>
+#include <QThread>
 
 namespace {
 
-/// Deletes a completer, at once unless it may be what has called: while its list is open it hands on what is
-/// typed, and goes on afterwards.
+/// Deletes a completer. Where an event loop runs it goes only with that loop's next round, for it may be what has
+/// called, or the toolkit may be going through the children of the field.
 void retire(QCompleter *completer)
 {
-    const QWidget *open = QApplication::activePopupWidget();
-    if (!open || open != static_cast<QWidget *>(completer->popup())) { // asking for its list makes one
+    if (QThread::currentThread()->loopLevel() == 0) {
         delete completer;
         return;
     }
-    completer->popup()->hide();
     completer->setParent(nullptr);
     completer->deleteLater();
 }
