@@ -50,6 +50,8 @@ bool toolkitNeeds(const QWidget *widget, const QObject *object, QEvent::Type eve
     case QEvent::Show: // to a child of a widget that shows or hides all its children
     case QEvent::Hide:
         return isInside(object, widget->parentWidget());
+    case QEvent::EnabledChange: // to a button that is held down, which then tells of its release
+        return isInside(object, widget);
     case QEvent::FocusOut: // also to a button, which then tells of its release
     case QEvent::FocusIn:
         return isInside(object, widget) || isInside(QApplication::focusWidget(), widget) ||

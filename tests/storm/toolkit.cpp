@@ -78,6 +78,15 @@ void heldButton()
     form.edit.setFocus();
 }
 
+/// A button that is held down goes where it is disabled.
+void disabledButton()
+{
+    auto *button = new QPushButton;
+    button->setDown(true);
+    QObject::connect(button, &QPushButton::released, [=] { delete button; });
+    button->setEnabled(false);
+}
+
 /// A child goes that was to be shown, or to be hidden, after its sibling.
 template <QEvent::Type type>
 void nextSibling()
@@ -124,6 +133,7 @@ int main(int argc, char **argv)
         {"nextWindow", nextWindow},
         {"closingPopup", closingPopup},
         {"heldButton", heldButton},
+        {"disabledButton", disabledButton},
         {"nextShown", nextSibling<QEvent::Show>},
         {"nextHidden", nextSibling<QEvent::Hide>},
         {"cursorBehindText", cursorBehindText},
