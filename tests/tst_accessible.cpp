@@ -159,6 +159,11 @@ void TestAccessible::gradient()
     QCOMPARE(bar.selectedSide(), TavikGradientBar::EndSide);
     press(square);
     QCOMPARE(bar.selectedSide(), TavikGradientBar::StartSide);
+
+    auto gone = std::make_unique<TavikGradientBar>();
+    const QAccessible::Id part = QAccessible::uniqueId(of(gone.get())->child(1));
+    gone.reset();
+    QVERIFY(!QAccessible::accessibleInterface(part));
 }
 
 void TestAccessible::panel()

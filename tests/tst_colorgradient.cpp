@@ -151,7 +151,9 @@ void TestColorGradient::drags()
             QCOMPARE(argument(emissions.startColor), bar.colorAt(bar.startValue()));
         if (!emissions.endColor.isEmpty())
             QCOMPARE(argument(emissions.endColor), bar.colorAt(bar.endValue()));
+        Support::PaintCounter paints(&bar);
         Support::release(&bar, {0, 0});
+        QCOMPARE(paints.take(), 1);
         Support::drag(&bar, {100, 12});
         QCOMPARE(emissions.startColor.size() + emissions.endColor.size(), row.accepted);
         QCOMPARE(emissions.request.size(), 0);

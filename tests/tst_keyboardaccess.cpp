@@ -23,6 +23,7 @@ private Q_SLOTS:
     void tabOrderOfThePopup();
     void mark();
     void markIsSeenAroundTheTitle();
+    void markStaysWhileChildrenHide();
     void marksNoListThatDropsDown();
     void coversLaterWidgets();
     void offByDefault();
@@ -291,6 +292,27 @@ void TestKeyboardAccess::markIsSeenAroundTheTitle()
          {QPoint(title.center().x(), title.top() - 1), QPoint(title.center().x(), title.bottom() + 1),
           QPoint(title.left() - 1, title.center().y()), QPoint(title.right() + 1, title.center().y())})
         QCOMPARE(picture.pixelColor(beside), QColor(Qt::black));
+}
+
+/// The toolkit goes through the children of a window that is minimized, the mark among them.
+void TestKeyboardAccess::markStaysWhileChildrenHide()
+{
+    struct Giving : QWidget
+    {
+        using QWidget::QWidget;
+        void hideEvent(QHideEvent *) override { parentWidget()->findChild<TavikColorWell *>()->setFocus(); }
+    };
+    Stage<Giving> stage;
+    auto *well = new TavikColorWell(&stage.window);
+    auto *square = new TavikColorPicker(&stage.window);
+    for (QWidget *child : {static_cast<QWidget *>(stage.control), static_cast<QWidget *>(well),
+                           static_cast<QWidget *>(square)})
+        child->show();
+    square->setFocus();
+    type({Qt::Key_F2});
+    QVERIFY(marked(stage.window).isValid());
+    stage.window.showMinimized();
+    QCOMPARE(QApplication::focusWidget(), well);
 }
 
 void TestKeyboardAccess::marksNoListThatDropsDown()

@@ -199,8 +199,10 @@ void TestTavikColorPopup::typing_data()
     // The partner cuts "-744" to three characters, and writes 255 + 74 back.
     row("overlong", R, "999", {1, 1, 2}, "ff3232 329 50 50 40 -74 205 205");
     row("green", G, "12", {1, 1}, "320c32 50 12 50 40 205 243 205");
+    row("blue", B, "9", {1}, "323209 50 50 9 40 205 205 246");
     row("cyan goes by red", C, "5", {1}, "fa3232 250 50 50 40 5 205 205");
     row("magenta emptied", M, "<", {1}, "32ff32 50 255 50 40 205 0 205");
+    row("yellow", Y, "255", {1, 1, 1}, "323200 50 50 0 40 205 205 255");
     row("alpha stays empty", A, "<", {1}, "323232 50 50 50  205 205 205");
     row("six digits", Hex, "<0ac81e", {1, 1, 1, 1, 1, 1, 1}, "0ac81e 10 200 30 40 245 55 225");
     row("four are none", Hex, "<abcd", {1, 1, 1, 1, 1}, "abcd 0 0 0 40 255 255 255");

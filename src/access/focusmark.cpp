@@ -10,8 +10,6 @@
 #include <QLineEdit>
 #include <QProxyStyle>
 
-#include <utility>
-
 namespace {
 
 /// Puts the frame over all others in the window or scroll area: beside a control that fills its parent there
@@ -88,14 +86,20 @@ FocusMark::FocusMark(QObject *parent)
 
 void FocusMark::update()
 {
-    // Made anew for each widget: a frame asks the one that it is around, which may go before it.
-    // Forgotten before it goes: if it has the focus itself, its end changes the focus once more.
-    delete std::exchange(m_frame, nullptr).data();
+    // Taken off, and not deleted: the toolkit may be going through the children of the window that it is in.
+    if (m_frame)
+        m_frame->setWidget(nullptr);
     QWidget *focused = QApplication::focusWidget();
-    if (!m_keysInUse || !focused || showsFocus(focused) || !KeyboardFilter::covers(focused))
-        return;
-    QWidget *around = marked(focused);
-    m_frame = new QFocusFrame(around);
-    m_frame->setStyle(m_style);
-    m_frame->setWidget(around);
+    if (m_keysInUse && focused && !showsFocus(focused) && KeyboardFilter::covers(focused))
+        putAround(marked(focused));
+}
+
+void FocusMark::putAround(QWidget *widget)
+{
+    if (!m_frame) { // or gone with the window that it was in
+        m_frame = new QFocusFrame(widget);
+        m_frame->setStyle(m_style);
+    }
+    m_frame->setPalette({}); // which follows that of the widget before
+    m_frame->setWidget(widget);
 }

@@ -23,10 +23,11 @@ private:
     explicit FocusMark(QObject *parent);
 
     void update();
+    void putAround(QWidget *widget);
 
     bool m_keysInUse = false;
     QStyle *m_style;
-    QPointer<QFocusFrame> m_frame; // a child of the window or scroll area that it is in
+    QPointer<QFocusFrame> m_frame; // a child of the window or scroll area that it was last shown in
 };
 
 #endif
