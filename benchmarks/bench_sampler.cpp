@@ -1,6 +1,6 @@
 #include "benches.h"
+#include "color/screenshot_p.h"
 #include "comparison.h"
-#include "screenshot_p.h"
 
 #include "../tests/xserver.h"
 

@@ -1,6 +1,6 @@
+#include "color/paintmouserect_p.h"
+#include "color/screenshot_p.h"
 #include "knownpicture.h"
-#include "paintmouserect_p.h"
-#include "screenshot_p.h"
 #include "support.h"
 #include "xserver.h"
 

@@ -1,4 +1,4 @@
-#include "accessibleaddbutton_p.h"
+#include "access/accessibleaddbutton_p.h"
 
 #include <QWidget>
 

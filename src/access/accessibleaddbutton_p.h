@@ -1,7 +1,7 @@
 #ifndef TAVIK_ACCESSIBLEADDBUTTON_P_H
 #define TAVIK_ACCESSIBLEADDBUTTON_P_H
 
-#include "accessiblebutton_p.h"
+#include "access/accessiblebutton_p.h"
 
 /// Tells the add button of a palette, which is in focus when the palette's keys are for it.
 class AccessibleAddButton : public AccessibleButton

@@ -1,4 +1,4 @@
-#include "accessiblebutton_p.h"
+#include "access/accessiblebutton_p.h"
 
 #include <QAbstractButton>
 

@@ -1,6 +1,6 @@
-#include "accessiblecell_p.h"
+#include "access/accessiblecell_p.h"
 
-#include "accessibleparts_p.h"
+#include "access/accessibleparts_p.h"
 
 void *AccessibleCell::interface_cast(QAccessible::InterfaceType type)
 {

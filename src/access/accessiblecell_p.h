@@ -1,7 +1,7 @@
 #ifndef TAVIK_ACCESSIBLECELL_P_H
 #define TAVIK_ACCESSIBLECELL_P_H
 
-#include "accessiblepart_p.h"
+#include "access/accessiblepart_p.h"
 
 /// Tells a colour of the palette as a cell of its table.
 class AccessibleCell : public AccessiblePart, public QAccessibleTableCellInterface

@@ -1,7 +1,7 @@
-#include "accessiblecolorbutton_p.h"
+#include "access/accessiblecolorbutton_p.h"
 
-#include "colorname_p.h"
-#include "tavikcolorbutton.h"
+#include "access/colorname_p.h"
+#include "color/tavikcolorbutton.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 #ifndef TAVIK_ACCESSIBLECOLORBUTTON_P_H
 #define TAVIK_ACCESSIBLECOLORBUTTON_P_H
 
-#include "accessiblebutton_p.h"
+#include "access/accessiblebutton_p.h"
 
 #include <QCoreApplication>
 

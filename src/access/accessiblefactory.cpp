@@ -1,17 +1,17 @@
 // Makes the library's controls known to screen readers, as long as the library is loaded.
 
-#include "accessibleaddbutton_p.h"
-#include "accessiblecolorbutton_p.h"
-#include "accessiblepalette_p.h"
-#include "accessiblepanel_p.h"
-#include "accessiblesquare_p.h"
-#include "tavikbutton.h"
-#include "tavikcolorbutton.h"
-#include "tavikcolorpicker.h"
-#include "tavikcolorpopup.h"
-#include "tavikcolorwell.h"
-#include "tavikexpandable.h"
-#include "tavikgradientbar.h"
+#include "access/accessibleaddbutton_p.h"
+#include "access/accessiblecolorbutton_p.h"
+#include "access/accessiblepalette_p.h"
+#include "access/accessiblepanel_p.h"
+#include "access/accessiblesquare_p.h"
+#include "buttons/tavikbutton.h"
+#include "color/tavikcolorbutton.h"
+#include "color/tavikcolorpicker.h"
+#include "color/tavikcolorpopup.h"
+#include "color/tavikcolorwell.h"
+#include "color/tavikgradientbar.h"
+#include "containers/tavikexpandable.h"
 
 /// The toolkit asks for each class of an object, beginning with the most derived one.
 ///

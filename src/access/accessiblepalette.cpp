@@ -1,6 +1,6 @@
-#include "accessiblepalette_p.h"
+#include "access/accessiblepalette_p.h"
 
-#include "accessiblecell_p.h"
+#include "access/accessiblecell_p.h"
 
 AccessiblePalette::AccessiblePalette(QWidget *well)
     : AccessibleParts(well, QAccessible::Table)

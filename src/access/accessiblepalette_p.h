@@ -1,7 +1,7 @@
 #ifndef TAVIK_ACCESSIBLEPALETTE_P_H
 #define TAVIK_ACCESSIBLEPALETTE_P_H
 
-#include "accessibleparts_p.h"
+#include "access/accessibleparts_p.h"
 
 /// Tells the palette as a table of colours; its last place is the add button. Nothing in it can be selected:
 /// a cell is pressed.

@@ -1,6 +1,6 @@
-#include "accessiblepanel_p.h"
+#include "access/accessiblepanel_p.h"
 
-#include "panelparts_p.h"
+#include "access/panelparts_p.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
-#include "accessiblepart_p.h"
+#include "access/accessiblepart_p.h"
 
-#include "accessibleparts_p.h"
+#include "access/accessibleparts_p.h"
 
 #include <QWidget>
 

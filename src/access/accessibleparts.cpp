@@ -1,7 +1,7 @@
-#include "accessibleparts_p.h"
+#include "access/accessibleparts_p.h"
 
-#include "accessiblepart_p.h"
-#include "partkeys_p.h"
+#include "access/accessiblepart_p.h"
+#include "access/partkeys_p.h"
 
 #include <QWidget>
 

@@ -1,7 +1,7 @@
 #ifndef TAVIK_ACCESSIBLEPARTS_P_H
 #define TAVIK_ACCESSIBLEPARTS_P_H
 
-#include "controlparts_p.h"
+#include "access/controlparts_p.h"
 
 #include <QAccessibleWidget>
 

@@ -1,7 +1,7 @@
-#include "accessiblesquare_p.h"
+#include "access/accessiblesquare_p.h"
 
-#include "colorname_p.h"
-#include "squarepoint_p.h"
+#include "access/colorname_p.h"
+#include "access/squarepoint_p.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "colorname_p.h"
+#include "access/colorname_p.h"
 
 #include <QColor>
 

@@ -1,4 +1,4 @@
-#include "controlkeys_p.h"
+#include "access/controlkeys_p.h"
 
 #include <QKeyEvent>
 #include <QWidget>

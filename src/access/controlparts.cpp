@@ -1,9 +1,9 @@
-#include "controlparts_p.h"
+#include "access/controlparts_p.h"
 
-#include "gradientparts_p.h"
-#include "paletteparts_p.h"
-#include "tavikcolorwell.h"
-#include "tavikgradientbar.h"
+#include "access/gradientparts_p.h"
+#include "access/paletteparts_p.h"
+#include "color/tavikcolorwell.h"
+#include "color/tavikgradientbar.h"
 
 std::unique_ptr<ControlParts> ControlParts::of(QWidget *control)
 {

@@ -1,7 +1,7 @@
-#include "focusmark_p.h"
+#include "access/focusmark_p.h"
 
-#include "controlkeys_p.h"
-#include "keyboardfilter_p.h"
+#include "access/controlkeys_p.h"
+#include "access/keyboardfilter_p.h"
 
 #include <QAbstractItemView>
 #include <QAbstractSpinBox>

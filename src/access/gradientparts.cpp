@@ -1,7 +1,7 @@
-#include "gradientparts_p.h"
+#include "access/gradientparts_p.h"
 
-#include "colorname_p.h"
-#include "tavikgradientbar.h"
+#include "access/colorname_p.h"
+#include "color/tavikgradientbar.h"
 
 GradientParts::GradientParts(TavikGradientBar *bar)
     : m_bar(bar)

@@ -1,13 +1,13 @@
-#include "keyboardfilter_p.h"
+#include "access/keyboardfilter_p.h"
 
-#include "focusmark_p.h"
-#include "partkeys_p.h"
-#include "popupkeys_p.h"
-#include "squarekeys_p.h"
-#include "tavikcolorpicker.h"
-#include "tavikcolorpopup.h"
-#include "tavikexpandable.h"
-#include "titlekeys_p.h"
+#include "access/focusmark_p.h"
+#include "access/partkeys_p.h"
+#include "access/popupkeys_p.h"
+#include "access/squarekeys_p.h"
+#include "access/titlekeys_p.h"
+#include "color/tavikcolorpicker.h"
+#include "color/tavikcolorpopup.h"
+#include "containers/tavikexpandable.h"
 
 #include <QKeyEvent>
 #include <QWidget>

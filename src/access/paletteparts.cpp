@@ -1,8 +1,8 @@
-#include "paletteparts_p.h"
+#include "access/paletteparts_p.h"
 
-#include "colorname_p.h"
-#include "tavikbutton.h"
-#include "tavikcolorwell.h"
+#include "access/colorname_p.h"
+#include "buttons/tavikbutton.h"
+#include "color/tavikcolorwell.h"
 
 PaletteParts::PaletteParts(TavikColorWell *well)
     : m_well(well)

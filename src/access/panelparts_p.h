@@ -1,10 +1,10 @@
 #ifndef TAVIK_PANELPARTS_P_H
 #define TAVIK_PANELPARTS_P_H
 
-#include "tavikbutton.h"
-#include "tavikcontainer.h"
-#include "tavikexpandable.h"
-#include "taviklabel.h"
+#include "buttons/tavikbutton.h"
+#include "buttons/taviklabel.h"
+#include "containers/tavikcontainer.h"
+#include "containers/tavikexpandable.h"
 
 /// What an expandable panel has no getter for.
 class PanelParts

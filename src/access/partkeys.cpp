@@ -1,4 +1,4 @@
-#include "partkeys_p.h"
+#include "access/partkeys_p.h"
 
 #include <QAccessible>
 #include <QKeyEvent>

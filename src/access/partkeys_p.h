@@ -1,8 +1,8 @@
 #ifndef TAVIK_PARTKEYS_P_H
 #define TAVIK_PARTKEYS_P_H
 
-#include "controlkeys_p.h"
-#include "controlparts_p.h"
+#include "access/controlkeys_p.h"
+#include "access/controlparts_p.h"
 
 /// Moves among the parts of a control: by arrows in a grid, by Tab in a row. Space and Return press a part;
 /// arrows, Page keys, Home and End move a handle.

@@ -1,10 +1,10 @@
-#include "popupkeys_p.h"
+#include "access/popupkeys_p.h"
 
-#include "samplerkeys_p.h"
-#include "screenshot_p.h"
-#include "tavikbutton.h"
-#include "tavikcolorpicker.h"
-#include "tavikcolorpopup.h"
+#include "access/samplerkeys_p.h"
+#include "buttons/tavikbutton.h"
+#include "color/screenshot_p.h"
+#include "color/tavikcolorpicker.h"
+#include "color/tavikcolorpopup.h"
 
 #include <QEvent>
 

@@ -1,7 +1,7 @@
-#include "samplerkeys_p.h"
+#include "access/samplerkeys_p.h"
 
-#include "paintmouserect_p.h"
-#include "screenshot_p.h"
+#include "color/paintmouserect_p.h"
+#include "color/screenshot_p.h"
 
 #include <QCoreApplication>
 #include <QCursor>

@@ -1,6 +1,6 @@
-#include "squarekeys_p.h"
+#include "access/squarekeys_p.h"
 
-#include "squarepoint_p.h"
+#include "access/squarepoint_p.h"
 
 #include <QKeyEvent>
 

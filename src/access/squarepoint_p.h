@@ -1,7 +1,7 @@
 #ifndef TAVIK_SQUAREPOINT_P_H
 #define TAVIK_SQUAREPOINT_P_H
 
-#include "tavikcolorpicker.h"
+#include "color/tavikcolorpicker.h"
 
 #include <QColor>
 #include <QPoint>

@@ -1,6 +1,6 @@
-#include "tavikkeyboardaccess.h"
+#include "access/tavikkeyboardaccess.h"
 
-#include "keyboardfilter_p.h"
+#include "access/keyboardfilter_p.h"
 
 void TavikKeyboardAccess::install(QWidget *root)
 {

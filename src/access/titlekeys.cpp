@@ -1,6 +1,6 @@
-#include "titlekeys_p.h"
+#include "access/titlekeys_p.h"
 
-#include "panelparts_p.h"
+#include "access/panelparts_p.h"
 
 #include <QKeyEvent>
 

@@ -1,7 +1,7 @@
 #ifndef TAVIK_TITLEKEYS_P_H
 #define TAVIK_TITLEKEYS_P_H
 
-#include "controlkeys_p.h"
+#include "access/controlkeys_p.h"
 
 class TavikExpandable;
 

@@ -1,8 +1,8 @@
-#include "tavikbutton.h"
+#include "buttons/tavikbutton.h"
 
-#include "lengths_p.h"
-#include "sheet_p.h"
-#include "typographytool.h"
+#include "foundation/lengths_p.h"
+#include "foundation/sheet_p.h"
+#include "foundation/typographytool.h"
 
 #include <QBoxLayout>
 #include <QLabel>

@@ -1,9 +1,9 @@
-#include "tavikbuttongroup.h"
+#include "buttons/tavikbuttongroup.h"
 
-#include "icontool.h"
-#include "lengths_p.h"
-#include "sheet_p.h"
-#include "tavikbutton.h"
+#include "buttons/tavikbutton.h"
+#include "foundation/icontool.h"
+#include "foundation/lengths_p.h"
+#include "foundation/sheet_p.h"
 
 #include <QButtonGroup>
 #include <QRadioButton>

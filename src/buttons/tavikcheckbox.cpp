@@ -1,8 +1,8 @@
-#include "tavikcheckbox.h"
+#include "buttons/tavikcheckbox.h"
 
-#include "lenconverter.h"
-#include "sheet_p.h"
-#include "typographytool.h"
+#include "foundation/lenconverter.h"
+#include "foundation/sheet_p.h"
+#include "foundation/typographytool.h"
 
 TavikCheckBox::TavikCheckBox(const QString &text, QWidget *parent)
     : QCheckBox(text, parent)

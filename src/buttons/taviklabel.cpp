@@ -1,7 +1,7 @@
-#include "taviklabel.h"
+#include "buttons/taviklabel.h"
 
-#include "lenconverter.h"
-#include "sheet_p.h"
+#include "foundation/lenconverter.h"
+#include "foundation/sheet_p.h"
 
 TavikLabel::TavikLabel(const QString &text, Type type, QWidget *parent)
     : QLabel(text, parent)

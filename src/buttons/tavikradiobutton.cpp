@@ -1,8 +1,8 @@
-#include "tavikradiobutton.h"
+#include "buttons/tavikradiobutton.h"
 
-#include "lenconverter.h"
-#include "sheet_p.h"
-#include "typographytool.h"
+#include "foundation/lenconverter.h"
+#include "foundation/sheet_p.h"
+#include "foundation/typographytool.h"
 
 TavikRadioButton::TavikRadioButton(const QString &text, QWidget *parent)
     : QRadioButton(text, parent)

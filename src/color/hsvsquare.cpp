@@ -1,4 +1,4 @@
-#include "hsvsquare_p.h"
+#include "color/hsvsquare_p.h"
 
 #include <vector>
 

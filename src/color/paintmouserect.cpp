@@ -1,4 +1,4 @@
-#include "paintmouserect_p.h"
+#include "color/paintmouserect_p.h"
 
 #include <QImage>
 #include <QPainter>

@@ -1,4 +1,4 @@
-#include "popupshadow_p.h"
+#include "color/popupshadow_p.h"
 
 #include <QPainter>
 #include <QWidget>

@@ -1,6 +1,6 @@
-#include "screenshot_p.h"
+#include "color/screenshot_p.h"
 
-#include "paintmouserect_p.h"
+#include "color/paintmouserect_p.h"
 
 #include <QApplication>
 #include <QDesktopWidget>

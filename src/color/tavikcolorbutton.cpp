@@ -1,7 +1,7 @@
-#include "tavikcolorbutton.h"
+#include "color/tavikcolorbutton.h"
 
-#include "sheet_p.h"
-#include "swatch_p.h"
+#include "color/swatch_p.h"
+#include "foundation/sheet_p.h"
 
 TavikColorButton::TavikColorButton(const QColor &color, QWidget *parent)
     : RemSized(parent)

@@ -1,7 +1,7 @@
-#include "tavikcolorpicker.h"
+#include "color/tavikcolorpicker.h"
 
-#include "hsvsquare_p.h"
-#include "lenconverter.h"
+#include "color/hsvsquare_p.h"
+#include "foundation/lenconverter.h"
 
 #include <QMouseEvent>
 #include <QPainter>

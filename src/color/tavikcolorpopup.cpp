@@ -1,14 +1,14 @@
-#include "tavikcolorpopup.h"
+#include "color/tavikcolorpopup.h"
 
-#include "lenconverter.h"
-#include "popupshadow_p.h"
-#include "screenshot_p.h"
-#include "tavikcolorpicker.h"
-#include "tavikcolorsilder.h"
-#include "tavikcolorwell.h"
-#include "taviklabel.h"
-#include "taviklineedit.h"
-#include "whitebutton_p.h"
+#include "buttons/taviklabel.h"
+#include "color/popupshadow_p.h"
+#include "color/screenshot_p.h"
+#include "color/tavikcolorpicker.h"
+#include "color/tavikcolorsilder.h"
+#include "color/tavikcolorwell.h"
+#include "color/whitebutton_p.h"
+#include "foundation/lenconverter.h"
+#include "inputs/taviklineedit.h"
 
 #include <QGuiApplication>
 #include <QPainter>

@@ -1,7 +1,7 @@
-#include "tavikcolorsilder.h"
+#include "color/tavikcolorsilder.h"
 
-#include "lenconverter.h"
-#include "swatch_p.h"
+#include "color/swatch_p.h"
+#include "foundation/lenconverter.h"
 
 #include <QMouseEvent>
 

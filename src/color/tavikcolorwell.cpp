@@ -1,8 +1,8 @@
-#include "tavikcolorwell.h"
+#include "color/tavikcolorwell.h"
 
-#include "lenconverter.h"
-#include "swatch_p.h"
-#include "whitebutton_p.h"
+#include "color/swatch_p.h"
+#include "color/whitebutton_p.h"
+#include "foundation/lenconverter.h"
 
 #include <QIcon>
 #include <QMouseEvent>

@@ -1,8 +1,8 @@
-#include "tavikcolorwiring.h"
+#include "color/tavikcolorwiring.h"
 
-#include "tavikcolorbutton.h"
-#include "tavikcolorpopup.h"
-#include "tavikgradientbar.h"
+#include "color/tavikcolorbutton.h"
+#include "color/tavikcolorpopup.h"
+#include "color/tavikgradientbar.h"
 
 TavikColorWiring::TavikColorWiring(QWidget *window)
     : QObject(window)
@@ -37,8 +37,9 @@ void TavikColorWiring::serve(TavikGradientBar *bar)
     disconnect(bar, &TavikGradientBar::colorPopupRequest, this, nullptr);
     connect(bar, &TavikGradientBar::colorPopupRequest, this, [=](const QPoint &pos, const QColor &color) {
         // Another side may be selected while the popup is open.
-        const auto set = bar->selectedSide() == TavikGradientBar::StartSide ? &TavikGradientBar::setStartColor
-                                                                            : &TavikGradientBar::setEndColor;
+        const auto set = bar->selectedSide() == TavikGradientBar::StartSide
+                             ? &TavikGradientBar::setStartColor
+                             : &TavikGradientBar::setEndColor;
         open(bar, pos, color, [=](const QColor &chosen) { (bar->*set)(chosen); });
     });
 }

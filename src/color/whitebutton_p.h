@@ -1,7 +1,7 @@
 #ifndef TAVIK_WHITEBUTTON_P_H
 #define TAVIK_WHITEBUTTON_P_H
 
-#include "tavikbutton.h"
+#include "buttons/tavikbutton.h"
 
 namespace WhiteButton {
 

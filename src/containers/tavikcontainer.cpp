@@ -1,6 +1,6 @@
-#include "tavikcontainer.h"
+#include "containers/tavikcontainer.h"
 
-#include "sheet_p.h"
+#include "foundation/sheet_p.h"
 
 #include <QVBoxLayout>
 

@@ -1,9 +1,9 @@
-#include "tavikexpandable.h"
+#include "containers/tavikexpandable.h"
 
-#include "lenconverter.h"
-#include "tavikbutton.h"
-#include "tavikcontainer.h"
-#include "taviklabel.h"
+#include "buttons/tavikbutton.h"
+#include "buttons/taviklabel.h"
+#include "containers/tavikcontainer.h"
+#include "foundation/lenconverter.h"
 
 #include <QPropertyAnimation>
 #include <QVBoxLayout>

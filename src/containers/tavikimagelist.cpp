@@ -1,8 +1,8 @@
-#include "tavikimagelist.h"
+#include "containers/tavikimagelist.h"
 
-#include "lengths_p.h"
-#include "sheet_p.h"
-#include "thumbnail_p.h"
+#include "containers/thumbnail_p.h"
+#include "foundation/lengths_p.h"
+#include "foundation/sheet_p.h"
 
 #include <QScrollBar>
 

@@ -1,7 +1,7 @@
-#include "tavikscrollarea.h"
+#include "containers/tavikscrollarea.h"
 
-#include "lenconverter.h"
-#include "sheet_p.h"
+#include "foundation/lenconverter.h"
+#include "foundation/sheet_p.h"
 
 #include <QScrollBar>
 

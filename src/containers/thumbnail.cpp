@@ -1,4 +1,4 @@
-#include "thumbnail_p.h"
+#include "containers/thumbnail_p.h"
 
 #include <QFileInfo>
 #include <QImageReader>

@@ -1,4 +1,4 @@
-#include "icontool.h"
+#include "foundation/icontool.h"
 
 QIcon IconTool::constructIcon(const QString &path, const QSize &size)
 {

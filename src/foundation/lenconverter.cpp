@@ -1,4 +1,4 @@
-#include "lenconverter.h"
+#include "foundation/lenconverter.h"
 
 #include <QGuiApplication>
 #include <QScreen>

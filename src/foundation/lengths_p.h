@@ -1,7 +1,7 @@
 #ifndef TAVIK_LENGTHS_P_H
 #define TAVIK_LENGTHS_P_H
 
-#include "lenconverter.h"
+#include "foundation/lenconverter.h"
 
 namespace Lengths {
 

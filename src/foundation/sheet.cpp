@@ -1,4 +1,4 @@
-#include "sheet_p.h"
+#include "foundation/sheet_p.h"
 
 #include <QPainter>
 #include <QStyle>

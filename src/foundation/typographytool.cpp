@@ -1,6 +1,6 @@
-#include "typographytool.h"
+#include "foundation/typographytool.h"
 
-#include "lenconverter.h"
+#include "foundation/lenconverter.h"
 
 #include <QWidget>
 

@@ -1,6 +1,6 @@
-#include "spinboxsheet_p.h"
+#include "inputs/spinboxsheet_p.h"
 
-#include "sheet_p.h"
+#include "foundation/sheet_p.h"
 
 namespace {
 

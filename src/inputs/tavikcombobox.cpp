@@ -1,7 +1,7 @@
-#include "tavikcombobox.h"
+#include "inputs/tavikcombobox.h"
 
-#include "lenconverter.h"
-#include "sheet_p.h"
+#include "foundation/lenconverter.h"
+#include "foundation/sheet_p.h"
 
 #include <QLineEdit>
 #include <QListView>

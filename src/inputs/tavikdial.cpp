@@ -1,4 +1,4 @@
-#include "tavikdial.h"
+#include "inputs/tavikdial.h"
 
 #include <QWheelEvent>
 

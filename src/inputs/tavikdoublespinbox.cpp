@@ -1,8 +1,8 @@
-#include "tavikdoublespinbox.h"
+#include "inputs/tavikdoublespinbox.h"
 
-#include "lenconverter.h"
-#include "sheet_p.h"
-#include "spinboxsheet_p.h"
+#include "foundation/lenconverter.h"
+#include "foundation/sheet_p.h"
+#include "inputs/spinboxsheet_p.h"
 
 #include <QWheelEvent>
 

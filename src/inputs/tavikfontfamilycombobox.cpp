@@ -1,4 +1,4 @@
-#include "tavikfontfamilycombobox.h"
+#include "inputs/tavikfontfamilycombobox.h"
 
 #include <QCompleter>
 #include <QFontDatabase>

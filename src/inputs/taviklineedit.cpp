@@ -1,7 +1,7 @@
-#include "taviklineedit.h"
+#include "inputs/taviklineedit.h"
 
-#include "lenconverter.h"
-#include "sheet_p.h"
+#include "foundation/lenconverter.h"
+#include "foundation/sheet_p.h"
 
 #include <QRegularExpressionValidator>
 #include <QSignalBlocker>

@@ -1,6 +1,6 @@
-#include "tavikseperateline.h"
+#include "inputs/tavikseperateline.h"
 
-#include "lenconverter.h"
+#include "foundation/lenconverter.h"
 
 TavikSeperateLine::TavikSeperateLine(int pxWidth, QWidget *parent)
     : TavikSeperateLine(parent)

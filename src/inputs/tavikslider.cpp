@@ -1,7 +1,7 @@
-#include "tavikslider.h"
+#include "inputs/tavikslider.h"
 
-#include "lenconverter.h"
-#include "sheet_p.h"
+#include "foundation/lenconverter.h"
+#include "foundation/sheet_p.h"
 
 #include <QWheelEvent>
 

@@ -1,8 +1,8 @@
 // Prints what the self-check finds. Arguments: --core for no GUI, --rem to choose the rem as an application
 // does, --plugins DIRECTORY to look for plugins nowhere else.
 
-#include "lenconverter.h"
-#include "tavikselfcheck.h"
+#include "foundation/lenconverter.h"
+#include "foundation/tavikselfcheck.h"
 
 #include <QGuiApplication>
 

@@ -1,6 +1,6 @@
-#include "tavikselfcheck.h"
+#include "foundation/tavikselfcheck.h"
 
-#include "lenconverter.h"
+#include "foundation/lenconverter.h"
 
 #include <QGuiApplication>
 #include <QImage>
