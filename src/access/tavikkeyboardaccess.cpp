@@ -1,10 +1,11 @@
 #include "access/tavikkeyboardaccess.h"
 
-#include "access/keyboardfilter_p.h"
+#include "access/controltable_p.h"
+#include "access/keys/keyboardfilter_p.h"
 
 void TavikKeyboardAccess::install(QWidget *root)
 {
     if (!root || KeyboardFilter::covers(root))
         return;
-    new KeyboardFilter(root);
+    new KeyboardFilter(root, ControlTable::giveKeys);
 }

@@ -40,7 +40,7 @@ void TavikLabel::updateStyleSheet()
     const Sheet::Table sheet = {
         {"TavikLabel{color: ", m_color},
         {";font-size: ", m_fontSz},
-        {"px;padding: 0.1em;}TavikLabel:disabled{color: ", m_disabledColor},
+        {"px;padding: 0.1em;}TavikLabel:disabled{color: ", "#e0e0e0"},
         {";}"},
     };
     Sheet::set(this, sheet);

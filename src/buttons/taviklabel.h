@@ -65,7 +65,6 @@ public:
 private:
     QString m_fontSz = TypographyTool::defualtFontSz();
     QString m_color = QStringLiteral("#404040");
-    QString m_disabledColor = QStringLiteral("#e0e0e0");
 };
 
 #endif

@@ -18,11 +18,19 @@ int alphaBelow(int over, int both)
 
 } // namespace
 
-PopupShadow::PopupShadow(QWidget *widget)
+PopupShadow::PopupShadow(QWidget *widget, int radius)
     : QGraphicsDropShadowEffect(widget)
     , m_widget(widget)
 {
+    setOffset(QPointF(0, 0));
+    setColor(QColor(Qt::black));
+    setBlurRadius(radius);
     setEnabled(false);
+}
+
+PopupShadow *PopupShadow::of(const QWidget *widget)
+{
+    return qobject_cast<PopupShadow *>(widget->graphicsEffect());
 }
 
 void PopupShadow::outlineChanged()

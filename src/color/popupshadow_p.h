@@ -16,8 +16,12 @@ class PopupShadow : public QGraphicsDropShadowEffect
     Q_OBJECT
 
 public:
-    /// A shadow for a widget, which still has to be given it by setGraphicsEffect().
-    explicit PopupShadow(QWidget *widget);
+    /// A black shadow all around a widget, to which it still has to be given by setGraphicsEffect(). The radius is in
+    /// pixels.
+    PopupShadow(QWidget *widget, int radius);
+
+    /// The shadow of a widget, or null if the application has set another effect.
+    static PopupShadow *of(const QWidget *widget);
 
     /// To be called when the widget's outline has changed.
     void outlineChanged();

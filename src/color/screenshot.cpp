@@ -12,9 +12,9 @@
 Screenshot::Screenshot(QWidget *parent)
     : QWidget(parent)
 {
-    initCursor();
-    backgroundPixmap();
-    createPaintMouseRect(nullptr);
+    setCursor(QCursor(Qt::ArrowCursor));
+    grabDesktop();
+    createPaintMouseRect();
     // A window gets its full size only later, or never without a window manager; the frame is placed now.
     setGeometry(QGuiApplication::primaryScreen()->geometry());
     // A modal dialog keeps input from all windows but its own: nobody could leave the sampler.
@@ -27,6 +27,18 @@ Screenshot::Screenshot(QWidget *parent)
     const QPoint pointer = QCursor::pos();
     Q_EMIT cursorPosChange(pointer.x(), pointer.y()); // to the frame; clazy:exclude=incorrect-emit
     show();
+}
+
+void Screenshot::moveTo(const QPoint &pos)
+{
+    Q_EMIT cursorPosChange(pos.x(), pos.y());
+    m_paintMouseRect->repaint();
+}
+
+void Screenshot::pick()
+{
+    if (emitColor())
+        close();
 }
 
 void Screenshot::mousePressEvent(QMouseEvent *event)
@@ -53,8 +65,7 @@ void Screenshot::keyPressEvent(QKeyEvent *event)
         close();
         break;
     case Qt::Key_Alt:
-        if (emitColor())
-            close();
+        pick();
         break;
     default:
         event->ignore();
@@ -67,44 +78,19 @@ void Screenshot::paintEvent(QPaintEvent *)
     painter.drawPixmap(QRectF(QPointF(), m_desktopRect.size()), *m_backgroundPixmap, QRectF());
 }
 
-void Screenshot::initCursor()
+/// Takes the picture of the whole virtual desktop, over all screens.
+void Screenshot::grabDesktop()
 {
-    setCursor(QCursor(Qt::ArrowCursor));
+    const QDesktopWidget *desktop = QApplication::desktop();
+    m_desktopRect = QRect(desktop->pos(), desktop->size());
+    m_grabbedPixmap = std::make_shared<QPixmap>(QGuiApplication::primaryScreen()->grabWindow(
+        0, m_desktopRect.x(), m_desktopRect.y(), m_desktopRect.width(), m_desktopRect.height()));
+    m_backgroundPixmap = std::make_shared<QPixmap>(*m_grabbedPixmap);
 }
 
-/// The whole virtual desktop, over all screens.
-const QRect &Screenshot::desktopRect()
+void Screenshot::createPaintMouseRect()
 {
-    if (!m_desktopRect.isValid()) {
-        const QDesktopWidget *desktop = QApplication::desktop();
-        m_desktopRect = QRect(desktop->pos(), desktop->size());
-    }
-    return m_desktopRect;
-}
-
-std::shared_ptr<QPixmap> Screenshot::grabbedPixmap()
-{
-    if (!m_grabbedPixmap) {
-        QScreen *screen = QGuiApplication::primaryScreen();
-        const QRect &area = desktopRect();
-        m_grabbedPixmap = std::make_shared<QPixmap>(
-            screen->grabWindow(0, area.x(), area.y(), area.width(), area.height()));
-    }
-    return m_grabbedPixmap;
-}
-
-std::shared_ptr<QPixmap> Screenshot::backgroundPixmap()
-{
-    if (!m_backgroundPixmap)
-        m_backgroundPixmap = std::make_shared<QPixmap>(*grabbedPixmap());
-    return m_backgroundPixmap;
-}
-
-void Screenshot::createPaintMouseRect(std::shared_ptr<QPixmap> pixmap)
-{
-    if (!pixmap)
-        pixmap = m_grabbedPixmap;
-    m_paintMouseRect = std::make_shared<PaintMouseRect>(std::move(pixmap), this);
+    m_paintMouseRect = std::make_shared<PaintMouseRect>(m_grabbedPixmap, this);
     connect(this, SIGNAL(cursorPosChange(int,int)), m_paintMouseRect.get(), SLOT(onPostionChange(int,int)));
     m_paintMouseRect->show();
     m_paintMouseRect->raise();

@@ -31,6 +31,13 @@ public:
     /// Takes the picture of the desktop, the only one of the run, and shows the window.
     explicit Screenshot(QWidget *parent);
 
+    /// Moves the frame as the pointer at a position does, in pixels of the window, and reads the colour there at once:
+    /// the next call may be pick().
+    void moveTo(const QPoint &pos);
+
+    /// Picks the colour that the frame shows, and closes.
+    void pick();
+
 Q_SIGNALS:
     /// The pointer has moved to this position in the window, in pixels.
     void cursorPosChange(int x, int y);
@@ -46,11 +53,8 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    void initCursor();
-    const QRect &desktopRect();
-    std::shared_ptr<QPixmap> grabbedPixmap();
-    std::shared_ptr<QPixmap> backgroundPixmap();
-    void createPaintMouseRect(std::shared_ptr<QPixmap> pixmap);
+    void grabDesktop();
+    void createPaintMouseRect();
 
     /// False if a receiver has deleted the sampler.
     bool emitColor();

@@ -31,12 +31,12 @@ void TavikColorButton::setCurrentColor(const QColor &color)
 void TavikColorButton::updateStyleSheet()
 {
     const Sheet::Table sheet = {
-        {"TavikColorButton {margin: 0;padding: 0;background-color: ", m_bgColor},
-        {";border: ", m_borderWidth},
-        {"px solid ", m_borderColor},
-        {";border-radius: ", m_borderRadius},
-        {"px;}TavikColorButton:hover{background-color: ", m_hoverBgColor},
-        {";}TavikColorButton:pressed{background-color: ", m_pressBgColor},
+        {"TavikColorButton {margin: 0;padding: 0;background-color: ", "#ffffff"},
+        {";border: ", "1"},
+        {"px solid ", "#d3d3d3"},
+        {";border-radius: ", ""}, // and so none: the corners stay square
+        {"px;}TavikColorButton:hover{background-color: ", "#f7f7f7"},
+        {";}TavikColorButton:pressed{background-color: ", "#e8e8e8"},
         {";}TavikColorButton:disabled {background-color: ", "#e0e0e0"},
         {";}"},
     };

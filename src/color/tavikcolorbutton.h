@@ -62,15 +62,9 @@ private Q_SLOTS:
 private:
     QRect swatchRect() const;
 
-    int m_paddingV = LenConverter::remToPx(0.42);
-    int m_paddingH = LenConverter::remToPx(0.83);
+    const int m_paddingV = LenConverter::remToPx(0.42);
+    const int m_paddingH = LenConverter::remToPx(0.83);
     QColor m_currentColor;
-    QString m_bgColor = QStringLiteral("#ffffff");
-    QString m_hoverBgColor = QStringLiteral("#f7f7f7");
-    QString m_pressBgColor = QStringLiteral("#e8e8e8");
-    QString m_borderColor = QStringLiteral("#d3d3d3");
-    QString m_borderWidth = QStringLiteral("1");
-    QString m_borderRadius;
 };
 
 #endif

@@ -2,21 +2,16 @@
 #define TAVIK_TAVIKCOLORPOPUP_H
 
 #include <QColor>
-#include <QLine>
-#include <QPointer>
-#include <QVector>
 #include <QWidget>
 
 #include <Tavik/tavik_export.h>
 
-class PopupShadow;
-class QBoxLayout;
+#include <memory>
+
+class PopupControls;
+class PopupOutline;
 class QVBoxLayout;
-class Screenshot;
-class TavikButton;
-class TavikColorPicker;
-class TavikColorSilder;
-class TavikColorWell;
+class Sampling;
 class TavikLineEdit;
 
 /// A colour chooser in a small window with an arrow that points to the control that asked for it.
@@ -107,58 +102,25 @@ private Q_SLOTS:
     void onPickColorChanged(const QColor &color);
 
 private:
-    friend class PopupKeys;
-
-    struct Field;
+    friend class PopupParts;
 
     void buildWindow();
-    void buildColumn();
-    QBoxLayout *buildSliders();
-    QBoxLayout *buildFields(const QVector<Field> &fields);
     void connectControls();
-    void addGap(double designPx);
-    void addCaption(const QString &text);
 
-    void updateCurrentColorFromSliders();
-    void updateSliders();
-    void updateHexEdit();
-    void updateRGBEdit();
-    void updateEditValues();
-    void rewriteRGB();
-    void rewriteCMY();
+    void takeFromControls();
     void followChannel(void (QColor::*set)(int), const TavikLineEdit *typed, TavikLineEdit *partner);
     void followField();
 
-    PopupShadow *shadow() const;
     void adjustPosition();
-    void initDrawElements(bool arrowUp);
+    void setSide(bool arrowUp);
 
-    QVBoxLayout *m_mainLayout = nullptr;
-    TavikColorPicker *m_picker = nullptr;
-    TavikButton *m_pickButton = nullptr;
-    TavikColorSilder *m_hueSlider = nullptr;
-    TavikColorSilder *m_alphaSlider = nullptr;
-    TavikLineEdit *m_hexEdit = nullptr;
-    TavikLineEdit *m_rEdit = nullptr;
-    TavikLineEdit *m_gEdit = nullptr;
-    TavikLineEdit *m_bEdit = nullptr;
-    TavikLineEdit *m_aEdit = nullptr;
-    TavikLineEdit *m_cEdit = nullptr;
-    TavikLineEdit *m_mEdit = nullptr;
-    TavikLineEdit *m_yEdit = nullptr;
-    TavikColorWell *m_colorWell = nullptr;
+    QVBoxLayout *m_mainLayout;
+    std::unique_ptr<PopupControls> m_controls;
+    std::unique_ptr<PopupOutline> m_outline;
     QColor m_currentColor;
-    int m_arrowLeft = 160;
-    int m_arrowRight = 180;
-    int m_arrowTip = 170;
-    int m_arrowHeight = 14;
-    int m_shadowRadius = 5;
     QPoint m_anchor;
-    QVector<QPoint> m_polygon;
-    QVector<QLine> m_lines;
-    bool m_arrowUp = true;
-    // The window is among the application's, which may delete them all.
-    QPointer<Screenshot> m_screenshot;
+    // Last, and so the first to go: the sampler's window may repaint and hide others as it closes.
+    std::unique_ptr<Sampling> m_sampling;
 };
 
 #endif

@@ -7,6 +7,13 @@
 #include <QIcon>
 #include <QMouseEvent>
 
+namespace {
+
+constexpr QSize cellSize(16, 16); // pixels, as the spacing
+constexpr int cellSpacing = 7;
+
+} // namespace
+
 TavikColorWell::TavikColorWell(const int &width, const int &height, QWidget *parent)
     : QWidget(parent)
 {
@@ -37,18 +44,18 @@ void TavikColorWell::initColors()
 void TavikColorWell::initRects()
 {
     m_rects.clear();
-    for (int row = 0; row < m_rows; ++row) {
-        for (int column = 0; column < m_columns; ++column) {
-            const QPoint corner((m_cellSize.width() + m_spacing) * column + 1,
-                                (m_cellSize.height() + m_spacing) * row + 1);
-            m_rects.append(QRect(corner, m_cellSize));
+    for (int row = 0; row < rows; ++row) {
+        for (int column = 0; column < columns; ++column) {
+            const QPoint corner((cellSize.width() + cellSpacing) * column + 1,
+                                (cellSize.height() + cellSpacing) * row + 1);
+            m_rects.append(QRect(corner, cellSize));
         }
     }
 }
 
 void TavikColorWell::addColor(const QColor &color)
 {
-    if (m_colors.size() == m_colorCount)
+    if (m_colors.size() == colorCount)
         m_colors.removeLast();
     m_colors.prepend(color);
     update();
@@ -57,13 +64,18 @@ void TavikColorWell::addColor(const QColor &color)
 void TavikColorWell::mousePressEvent(QMouseEvent *event)
 {
     QWidget::mousePressEvent(event);
-    for (int i = 0; i < m_colorCount; ++i) {
-        if (m_rects.at(i).contains(event->pos())) {
-            const QColor color = m_colors.at(i); // a receiver may change the palette
-            Q_EMIT colorSelected(color);
+    for (int cell = 0; cell < colorCount; ++cell) {
+        if (m_rects.at(cell).contains(event->pos())) {
+            select(cell);
             return;
         }
     }
+}
+
+void TavikColorWell::select(int cell)
+{
+    const QColor color = m_colors.at(cell); // a receiver may change the palette
+    Q_EMIT colorSelected(color);
 }
 
 void TavikColorWell::paintEvent(QPaintEvent *)
@@ -71,7 +83,7 @@ void TavikColorWell::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.setPen(QPen(QColor(0xd3d3d3), 1.0, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     const QBrush texture = Swatch::texture();
-    for (int i = 0; i < m_colorCount; ++i)
+    for (int i = 0; i < colorCount; ++i)
         Swatch::paint(painter, m_rects.at(i), texture, m_colors.at(i));
 }
 
@@ -80,7 +92,7 @@ void TavikColorWell::buildAddButton()
     const QIcon plus(QStringLiteral(":/Color/images/plus.svg"));
     m_addButton = new TavikButton(plus, QSizeF(-1, -1), TavikButton::Outline, this);
     m_addButton->setAccessibleName(tr("Add the current color"));
-    m_addButton->setFixedSize(m_cellSize);
+    m_addButton->setFixedSize(cellSize);
     m_addButton->setGeometry(m_rects.last());
     m_addButton->setBorderRadius(QStringLiteral("0"));
     WhiteButton::style(m_addButton);

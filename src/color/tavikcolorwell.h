@@ -57,16 +57,16 @@ protected:
 private:
     friend class PaletteParts;
 
+    static constexpr int rows = 2;
+    static constexpr int columns = 8;
+    static constexpr int colorCount = rows * columns - 1;
+
     void buildAddButton();
+    void select(int cell);
 
     QVector<QColor> m_colors;
     QVector<QRect> m_rects;
     TavikButton *m_addButton = nullptr;
-    QSize m_cellSize{16, 16};
-    int m_spacing = 7;
-    int m_colorCount = 15;
-    int m_rows = 2;
-    int m_columns = 8;
 };
 
 #endif

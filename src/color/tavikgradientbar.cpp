@@ -110,7 +110,7 @@ void TavikGradientBar::setSelectedSide(const Side &side)
 
 QColor TavikGradientBar::colorAt(int value) const
 {
-    const double t = value / double(m_maxValue - m_minValue);
+    const double t = value / double(maxValue - minValue);
     const auto mix = [t](int start, int end) { return truncated(start + (end - start) * t); };
     QColor color;
     color.setRgb(mix(m_startColor.red(), m_endColor.red()), mix(m_startColor.green(), m_endColor.green()),
@@ -184,8 +184,7 @@ QRect TavikGradientBar::innerSquare(const QRect &square) const
 
 QPoint TavikGradientBar::handleCenter(int value) const
 {
-    const double x =
-        value / double(m_maxValue - m_minValue) * m_barRect.width() + m_startSquare.width() + 1;
+    const double x = value / double(maxValue - minValue) * m_barRect.width() + m_startSquare.width() + 1;
     // No widget is larger than that, so a handle beyond is out of sight either way.
     const int pos = int(qBound<double>(-QWIDGETSIZE_MAX, x, QWIDGETSIZE_MAX));
     return {pos + m_startHandle.width() + 1, rect().center().y()};
@@ -194,7 +193,7 @@ QPoint TavikGradientBar::handleCenter(int value) const
 int TavikGradientBar::valueAt(int x) const
 {
     // A bar without a width gives infinity or no number, which no drag accepts.
-    return truncated((double(x) - m_barRect.left()) / m_barRect.width() * (m_maxValue - m_minValue));
+    return truncated((double(x) - m_barRect.left()) / m_barRect.width() * (maxValue - minValue));
 }
 
 void TavikGradientBar::requestPopup(Side side, const QRect &square, const QColor &color)
@@ -205,7 +204,7 @@ void TavikGradientBar::requestPopup(Side side, const QRect &square, const QColor
 
 void TavikGradientBar::dragStart(int value)
 {
-    if (value < m_minValue || value >= m_endValue)
+    if (value < minValue || value >= m_endValue)
         return;
     m_startValue = value;
     Q_EMIT selectedStartColor(colorAt(value));
@@ -214,7 +213,7 @@ void TavikGradientBar::dragStart(int value)
 
 void TavikGradientBar::dragEnd(int value)
 {
-    if (value > m_maxValue || value <= m_startValue)
+    if (value > maxValue || value <= m_startValue)
         return;
     m_endValue = value;
     Q_EMIT selectedEndColor(colorAt(value));

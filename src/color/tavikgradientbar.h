@@ -129,6 +129,9 @@ protected:
 private:
     friend class GradientParts;
 
+    static constexpr int minValue = 0;
+    static constexpr int maxValue = 100;
+
     QRect innerSquare(const QRect &square) const;
     QPoint handleCenter(int value) const;
     int valueAt(int x) const;
@@ -148,8 +151,6 @@ private:
     int m_endValue = 100;
     QRect m_startHandle;
     QRect m_endHandle;
-    int m_minValue = 0;
-    int m_maxValue = 100;
     bool m_startPressed = false;
     bool m_endPressed = false;
     Side m_selectedSide = StartSide;

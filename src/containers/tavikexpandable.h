@@ -112,7 +112,7 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
-    friend class PanelParts;
+    friend class PanelTitle;
 
     void buildTitleBar(const QString &title);
     void buildContent();

@@ -3,6 +3,7 @@
 
 #include <QDial>
 
+#include <Tavik/WheelBlocked>
 #include <Tavik/tavik_export.h>
 
 /// A dial in the toolkit's look that leaves the wheel alone.
@@ -14,16 +15,13 @@
 /// \endcode
 ///
 /// The wheel ends at the dial: neither its value changes nor does anything around it scroll.
-class TAVIK_EXPORT TavikDial : public QDial
+class TAVIK_EXPORT TavikDial : public WheelBlocked<QDial>
 {
     Q_OBJECT
 
 public:
     /// A dial with the toolkit's range, 0 to 99.
     explicit TavikDial(QWidget *parent = nullptr);
-
-protected:
-    void wheelEvent(QWheelEvent *event) override;
 };
 
 #endif

@@ -4,10 +4,8 @@
 #include "foundation/sheet_p.h"
 #include "inputs/spinboxsheet_p.h"
 
-#include <QWheelEvent>
-
 TavikDoubleSpinbox::TavikDoubleSpinbox(double minimum, double maximum, double step, QWidget *parent)
-    : RemSized(parent)
+    : WheelBlocked(parent)
 {
     TypographyTool::setFontHint(this);
     setAlignment(Qt::AlignHCenter);
@@ -30,9 +28,4 @@ void TavikDoubleSpinbox::setFontRemSz(double rem)
 void TavikDoubleSpinbox::updateStyleSheet()
 {
     Sheet::set(this, SpinboxSheet::withButtons("TavikDoubleSpinbox", m_fontSz, "background: #efefef;"));
-}
-
-void TavikDoubleSpinbox::wheelEvent(QWheelEvent *event)
-{
-    event->accept(); // it comes ignored, and would scroll what is around
 }

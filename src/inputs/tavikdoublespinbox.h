@@ -5,6 +5,7 @@
 
 #include <Tavik/RemSized>
 #include <Tavik/TypographyTool>
+#include <Tavik/WheelBlocked>
 #include <Tavik/tavik_export.h>
 
 /// A field for a number with two decimals.
@@ -15,7 +16,7 @@
 /// \endcode
 ///
 /// The wheel ends at the spin box: neither its value changes nor does anything around it scroll.
-class TAVIK_EXPORT TavikDoubleSpinbox : public RemSized<QDoubleSpinBox>
+class TAVIK_EXPORT TavikDoubleSpinbox : public WheelBlocked<RemSized<QDoubleSpinBox>>
 {
     Q_OBJECT
 
@@ -32,9 +33,6 @@ public:
 
     /// Builds the style sheet anew and sets it.
     void updateStyleSheet();
-
-protected:
-    void wheelEvent(QWheelEvent *event) override;
 
 private:
     QString m_fontSz = TypographyTool::defualtFontSz();

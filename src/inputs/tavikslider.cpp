@@ -3,10 +3,8 @@
 #include "foundation/lenconverter.h"
 #include "foundation/sheet_p.h"
 
-#include <QWheelEvent>
-
 TavikSlider::TavikSlider(const int &pxWidth, const int &pxHeight, QWidget *parent)
-    : QSlider(Qt::Horizontal, parent)
+    : WheelBlocked(Qt::Horizontal, parent)
 {
     setFixedSize(pxWidth, pxHeight);
     updateStyleSheet();
@@ -18,7 +16,7 @@ TavikSlider::TavikSlider(const double &remWidth, const int &remHeight, QWidget *
 }
 
 TavikSlider::TavikSlider(QWidget *parent)
-    : QSlider(Qt::Horizontal, parent)
+    : WheelBlocked(Qt::Horizontal, parent)
 {
     updateStyleSheet();
 }
@@ -37,9 +35,4 @@ void TavikSlider::updateStyleSheet()
          "TavikSlider::sub-page:horizontal {background: #08a274;}"},
     };
     Sheet::set(this, sheet);
-}
-
-void TavikSlider::wheelEvent(QWheelEvent *event)
-{
-    event->accept(); // it comes ignored, and would scroll what is around
 }

@@ -3,6 +3,7 @@
 
 #include <QSlider>
 
+#include <Tavik/WheelBlocked>
 #include <Tavik/tavik_export.h>
 
 /// A horizontal slider of a fixed size.
@@ -16,7 +17,7 @@
 /// The type of the first argument decides the unit of both lengths: an `int` means pixels, a `double` rem.
 /// Groove and handle are pixels at every rem: the handle takes 21 pixels of height. The wheel ends at the
 /// slider: neither its value changes nor does anything around it scroll.
-class TAVIK_EXPORT TavikSlider : public QSlider
+class TAVIK_EXPORT TavikSlider : public WheelBlocked<QSlider>
 {
     Q_OBJECT
 
@@ -33,9 +34,6 @@ public:
 
     /// Builds the style sheet anew and sets it.
     void updateStyleSheet();
-
-protected:
-    void wheelEvent(QWheelEvent *event) override;
 };
 
 #endif

@@ -4,11 +4,9 @@
 #include "foundation/sheet_p.h"
 #include "inputs/spinboxsheet_p.h"
 
-#include <QWheelEvent>
-
 TavikSpinbox::TavikSpinbox(int minimum, int maximum, int step, QWidget *parent, bool hideStepButtons,
                            double fontRemSz)
-    : RemSized(parent)
+    : WheelBlocked(parent)
 {
     TypographyTool::setFontHint(this);
     setAlignment(Qt::AlignHCenter);
@@ -41,9 +39,4 @@ void TavikSpinbox::updateStyleSheet()
 void TavikSpinbox::updateStyleSheetHideStepBut()
 {
     Sheet::set(this, SpinboxSheet::withoutButtons("TavikSpinbox", m_fontSz));
-}
-
-void TavikSpinbox::wheelEvent(QWheelEvent *event)
-{
-    event->accept(); // it comes ignored, and would scroll what is around
 }

@@ -5,6 +5,7 @@
 
 #include <Tavik/RemSized>
 #include <Tavik/TypographyTool>
+#include <Tavik/WheelBlocked>
 #include <Tavik/tavik_export.h>
 
 /// A field for a whole number, with or without step buttons.
@@ -17,7 +18,7 @@
 ///
 /// Without step buttons there is nothing to press, and the look of being pressed never shows. The wheel ends at
 /// the spin box: neither its value changes nor does anything around it scroll.
-class TAVIK_EXPORT TavikSpinbox : public RemSized<QSpinBox>
+class TAVIK_EXPORT TavikSpinbox : public WheelBlocked<RemSized<QSpinBox>>
 {
     Q_OBJECT
 
@@ -38,9 +39,6 @@ public:
 
     /// Builds the style sheet without step buttons anew and sets it; keys still step.
     void updateStyleSheetHideStepBut();
-
-protected:
-    void wheelEvent(QWheelEvent *event) override;
 
 private:
     QString m_fontSz = TypographyTool::defualtFontSz();
