@@ -156,7 +156,6 @@ void TavikExpandable::updateExpandedHeight(double rem)
 
 void TavikExpandable::initAnimationStates()
 {
-    m_animStartValue = 0.0;
     m_animEndValue = m_remExpandHeight;
 }
 
@@ -187,7 +186,7 @@ void TavikExpandable::run(bool expanded)
     m_expandButton->setIcon(arrow(expanded));
     // A running animation turns round where it stands, and start() then has no effect.
     m_animation->setDirection(expanded ? QAbstractAnimation::Forward : QAbstractAnimation::Backward);
-    m_animation->setStartValue(m_animStartValue);
+    m_animation->setStartValue(0.0);
     m_animation->setEndValue(m_animEndValue);
     Q_EMIT animationStarted();
     m_animation->start(QAbstractAnimation::KeepWhenStopped);

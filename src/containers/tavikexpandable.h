@@ -127,7 +127,6 @@ private:
     TavikContainer *m_innerContainer = nullptr;
     QPropertyAnimation *m_animation;
     double m_remExpandHeight = 0.0;
-    double m_animStartValue = 0.0;
     double m_animEndValue = 0.0;
     bool m_expanded = true;
 };
