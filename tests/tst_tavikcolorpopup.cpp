@@ -25,6 +25,7 @@ class TestTavikColorPopup : public TestCase
 private Q_SLOTS:
     void contentsFit();
     void placement();
+    void goesWhileOpen();
     void showsAColour();
     void typing_data();
     void typing();
@@ -125,6 +126,24 @@ void TestTavikColorPopup::contentsFit()
         QCOMPARE(edit(popup, Hex)->size(), LenConverter::iniRemToPxSz(60, 20));
         QCOMPARE(edit(popup, Y)->size(), LenConverter::iniRemToPxSz(28, 20));
     }
+}
+
+/// It closes only when it is no popup any more; its field then mends what was typed, and tells so.
+void TestTavikColorPopup::goesWhileOpen()
+{
+    QLineEdit before;
+    before.show();
+    QApplication::setActiveWindow(&before);
+    before.setFocus();
+    auto *popup = new TavikColorPopup;
+    QSignalSpy changed(popup, &TavikColorPopup::colorChanged);
+    popup->showColorPopup(QPoint(200, 10), Qt::black);
+    edit(*popup, A)->setFocus();
+    edit(*popup, A)->setText(QStringLiteral("1,2"));
+    QCOMPARE(changed.count(), 1);
+    delete popup;
+    QCOMPARE(changed.count(), 1);
+    QVERIFY(before.hasFocus());
 }
 
 void TestTavikColorPopup::placement()

@@ -1,10 +1,7 @@
 #include "color/popupcontrols_p.h"
 
 #include "buttons/taviklabel.h"
-#include "color/tavikcolorpicker.h"
 #include "color/tavikcolorpopup.h"
-#include "color/tavikcolorsilder.h"
-#include "color/tavikcolorwell.h"
 #include "color/whitebutton_p.h"
 #include "foundation/lenconverter.h"
 

@@ -1,14 +1,14 @@
 #ifndef TAVIK_POPUPCONTROLS_P_H
 #define TAVIK_POPUPCONTROLS_P_H
 
+#include "buttons/tavikbutton.h"
 #include "color/colorfields_p.h"
+#include "color/tavikcolorpicker.h"
+#include "color/tavikcolorsilder.h"
+#include "color/tavikcolorwell.h"
+#include "inputs/taviklineedit.h"
 
-class QBoxLayout;
 class QVBoxLayout;
-class TavikButton;
-class TavikColorPicker;
-class TavikColorSilder;
-class TavikColorWell;
 
 /// The popup's controls from top to bottom. What is shown in them here runs no slot.
 class PopupControls

@@ -1,17 +1,12 @@
 #include "color/tavikcolorpopup.h"
 
-#include "buttons/tavikbutton.h"
 #include "color/popupcontrols_p.h"
 #include "color/popupoutline_p.h"
 #include "color/popupplacement_p.h"
 #include "color/popupshadow_p.h"
 #include "color/sampling_p.h"
 #include "color/screenshot_p.h"
-#include "color/tavikcolorpicker.h"
-#include "color/tavikcolorsilder.h"
-#include "color/tavikcolorwell.h"
 #include "foundation/lenconverter.h"
-#include "inputs/taviklineedit.h"
 
 #include <QPainter>
 #include <QVBoxLayout>
@@ -34,7 +29,13 @@ TavikColorPopup::TavikColorPopup(QWidget *parent)
 {
 }
 
-TavikColorPopup::~TavikColorPopup() = default;
+TavikColorPopup::~TavikColorPopup()
+{
+    // An open one closes only when it is no popup any more, and a field that loses the focus then may tell of a change.
+    const QList<QWidget *> controls = findChildren<QWidget *>();
+    for (const QWidget *control : controls)
+        control->disconnect(this);
+}
 
 QColor TavikColorPopup::currentColor() const
 {
@@ -226,18 +227,13 @@ void TavikColorPopup::showColorPopup(const QPoint &pos, const QColor &color)
 void TavikColorPopup::adjustPosition()
 {
     const PopupPlacement placement(size(), m_anchor);
-    setSide(placement.isBelow);
+    if (!m_outline->hasSide(placement.isBelow)) {
+        *m_outline = PopupOutline(size(), placement.isBelow);
+        m_mainLayout->setContentsMargins(m_outline->margins());
+        if (PopupShadow *own = PopupShadow::of(this))
+            own->outlineChanged();
+    }
     move(placement.corner);
-}
-
-void TavikColorPopup::setSide(bool arrowUp)
-{
-    if (m_outline->hasSide(arrowUp))
-        return;
-    *m_outline = PopupOutline(size(), arrowUp);
-    m_mainLayout->setContentsMargins(m_outline->margins());
-    if (PopupShadow *own = PopupShadow::of(this))
-        own->outlineChanged();
 }
 
 void TavikColorPopup::paintEvent(QPaintEvent *)

@@ -112,7 +112,6 @@ private:
     void followField();
 
     void adjustPosition();
-    void setSide(bool arrowUp);
 
     QVBoxLayout *m_mainLayout;
     std::unique_ptr<PopupControls> m_controls;
