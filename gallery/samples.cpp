@@ -4,6 +4,7 @@
 #include "look.h"
 #include "ownpictures.h"
 #include "pages/colourspecimens.h"
+#include "shared/comboplace.h"
 
 #include <QCoreApplication>
 #include <QVBoxLayout>
@@ -95,29 +96,18 @@ QWidget *spinBox()
     return box;
 }
 
-/// In a place of its own, where the size outlives polishing.
-QWidget *sizedCombo(TavikComboBox *combo)
-{
-    auto *place = new TavikContainer;
-    place->removeMargins();
-    place->addWidget(combo);
-    combo->ensurePolished();
-    combo->setRemSize(14, 2.333);
-    return place;
-}
-
 QWidget *comboBox()
 {
     auto *combo = new TavikComboBox;
     combo->addItem(tr(QT_TRANSLATE_NOOP("Samples", "Millimetres")));
-    return sizedCombo(combo);
+    return new ComboPlace(combo, 14, 2.333);
 }
 
 QWidget *fontFamilyComboBox()
 {
     auto *combo = new TavikFontFamilyComboBox;
     combo->setCurrentText(combo->font().family());
-    return sizedCombo(combo);
+    return new ComboPlace(combo, 14, 2.333);
 }
 
 QWidget *slider()

@@ -146,8 +146,10 @@ void TestPoster::onePopupForEveryColour()
     QTest::mouseClick(ground, Qt::LeftButton);
     QVERIFY(popup->isVisible());
     QCOMPARE(popup->currentColor().rgba(), before.ground.rgba());
-    Q_EMIT popup->colorChanged(Qt::yellow);
-    Q_EMIT popup->colorChanged(QColor()); // while a hexadecimal value is typed
+    for (int i = 0; i < 2; ++i) // the second changes nothing
+        Q_EMIT popup->colorChanged(QColor(Qt::yellow).toHsv());
+    QCOMPARE(ground->currentColor(), QColor(Qt::yellow)); // in eight bits a channel
+    Q_EMIT popup->colorChanged(QColor());                 // while a hexadecimal value is typed
     QCOMPARE(window.poster()->settings().ground, QColor(Qt::yellow));
 
     QTest::mouseClick(bar, Qt::LeftButton, {}, {bar->width() - bar->height(), bar->height() / 2});

@@ -76,10 +76,10 @@ void CaptionPanel::connectControls()
         poster()->edit(tr("bold"), [=](PosterSettings &s) { s.isBold = isBold; });
     });
     connect(m_color, &TavikColorButton::colorChanged, this, [this](const QColor &color) {
-        poster()->edit(tr("caption colour"), [=](PosterSettings &s) { s.captionColor = color; });
+        editColor(tr("caption colour"), [=](PosterSettings &s) { s.captionColor = color; });
     });
     connect(m_shadow, &TavikColorButton::colorChanged, this, [this](const QColor &color) {
-        poster()->edit(tr("shadow colour"), [=](PosterSettings &s) { s.shadowColor = color; });
+        editColor(tr("shadow colour"), [=](PosterSettings &s) { s.shadowColor = color; });
     });
     connect(m_column, &TavikButtonGroup::buttonClicked, this, [this](int column) {
         poster()->edit(tr("place"), [=](PosterSettings &s) { s.captionColumn = column; });

@@ -82,7 +82,7 @@ void GradientPanel::connectControls()
     });
     // What the bar's signals carry is the colour under a handle; we want the colours of its ends.
     const auto readBar = [this] {
-        poster()->edit(tr("gradient colours"), [this](PosterSettings &s) {
+        editColor(tr("gradient colours"), [this](PosterSettings &s) {
             s.startColor = m_bar->startColor();
             s.endColor = m_bar->endColor();
             s.startValue = m_bar->startValue();

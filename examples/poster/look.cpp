@@ -1,5 +1,7 @@
 #include "look.h"
 
+#include "shared/comboplace.h"
+
 #include <QApplication>
 #include <QFontDatabase>
 #include <QStyle>
@@ -7,7 +9,6 @@
 
 #include <Tavik/TavikButton>
 #include <Tavik/TavikComboBox>
-#include <Tavik/TavikContainer>
 #include <Tavik/TavikLabel>
 #include <Tavik/TypographyTool>
 
@@ -41,12 +42,6 @@ TavikButton *Look::button(const QString &text, double remWidth, bool isOutlined)
 
 QWidget *Look::place(TavikComboBox *combo, double remWidth)
 {
-    combo->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     combo->setFocusPolicy(Qt::StrongFocus); // not by a wheel that scrolls the page under the pointer
-    auto *place = new TavikContainer;
-    place->removeMargins();
-    place->setRemSize(remWidth, FieldHeight);
-    place->addWidget(combo);
-    place->setFocusProxy(combo);
-    return place;
+    return new ComboPlace(combo, remWidth, FieldHeight);
 }

@@ -25,8 +25,7 @@ TavikLabel *label(const QString &text);
 /// A button of a width in rem, as high as a field.
 TavikButton *button(const QString &text, double remWidth, bool isOutlined = true);
 
-/// A place of a fixed width in rem for a combo box, as high as a field. A combo box takes a size of its own
-/// whenever it is polished; here it is stretched instead.
+/// A place of a width in rem for a combo box, as high as a field.
 QWidget *place(TavikComboBox *combo, double remWidth);
 
 } // namespace Look

@@ -45,6 +45,12 @@ int Panel::rowsWidth()
     return LenConverter::remToPx(RemWidth) - frame - 2 * LenConverter::remToPx(inset);
 }
 
+void Panel::editColor(const QString &what, const Poster::Edit &edit)
+{
+    if (!m_poster->edit(what, edit))
+        follow(m_poster->settings());
+}
+
 void Panel::addRow(const QString &name, std::initializer_list<QWidget *> widgets)
 {
     auto *row = new TavikContainer(Horizontal);

@@ -32,6 +32,9 @@ protected:
 
     Poster *poster() const { return m_poster; }
 
+    /// Edits the poster by a colour, and shows what is left of it by rounding, even if that is what was there.
+    void editColor(const QString &what, const Poster::Edit &edit);
+
     /// Adds a row of widgets behind a name. An empty name leaves its place empty.
     void addRow(const QString &name, std::initializer_list<QWidget *> widgets);
 

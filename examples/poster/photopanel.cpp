@@ -126,7 +126,7 @@ void PhotoPanel::choose(const QString &name)
 
 void PhotoPanel::read()
 {
-    poster()->edit(tr("photograph"), [this](PosterSettings &s) {
+    editColor(tr("photograph"), [this](PosterSettings &s) {
         s.hasPhotograph = m_photograph->isChecked();
         s.ground = m_ground->currentColor();
     });

@@ -8,14 +8,16 @@ Poster::Poster(QObject *parent)
 {
 }
 
-void Poster::edit(const QString &what, const Edit &edit)
+bool Poster::edit(const QString &what, const Edit &edit)
 {
     PosterSettings after = m_settings;
     edit(after);
+    after.roundColors();
     if (after == m_settings)
-        return;
+        return false;
     m_undoStack.push(new SettingsCommand(what, m_step, m_settings, after,
                                          [this](const PosterSettings &settings) { apply(settings); }));
+    return true;
 }
 
 void Poster::apply(const PosterSettings &settings)

@@ -33,8 +33,9 @@ public:
     QUndoStack *undoStack() { return &m_undoStack; }
 
     /// Changes settings. `what` tells the user what an undo takes back; further changes of the same in the
-    /// same step are undone together. What changes nothing is forgotten.
-    void edit(const QString &what, const Edit &edit);
+    /// same step are undone together. Colours are rounded. Returns whether anything is another now; if not, the
+    /// edit is forgotten.
+    bool edit(const QString &what, const Edit &edit);
 
     /// Ends the present step: what is changed from now on is undone on its own.
     void beginStep() { ++m_step; }

@@ -21,6 +21,12 @@ bool PosterSettings::operator==(const PosterSettings &other) const
     return fields(*this) == fields(other);
 }
 
+void PosterSettings::roundColors()
+{
+    for (QColor *color : {&ground, &startColor, &endColor, &captionColor, &shadowColor})
+        *color = QColor::fromRgba(color->rgba());
+}
+
 Qt::Alignment PosterSettings::alignment() const
 {
     const Qt::Alignment columns[] = {Qt::AlignLeft, Qt::AlignHCenter, Qt::AlignRight};

@@ -44,6 +44,9 @@ struct PosterSettings
     bool operator==(const PosterSettings &other) const;
     bool operator!=(const PosterSettings &other) const { return !(*this == other); }
 
+    /// Leaves eight bits a channel to each colour, which is what a file keeps.
+    void roundColors();
+
     /// The poster's size in pixels.
     QSize size() const { return {width, height}; }
 

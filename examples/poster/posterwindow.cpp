@@ -1,7 +1,6 @@
 #include "posterwindow.h"
 
 #include "captionpanel.h"
-#include "colourwiring.h"
 #include "exportpanel.h"
 #include "gradientpanel.h"
 #include "header.h"
@@ -10,6 +9,8 @@
 #include "photopanel.h"
 #include "preview.h"
 #include "settingsfile.h"
+#include "shared/filedrop.h"
+#include "shared/picturefiles.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -18,13 +19,12 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGridLayout>
-#include <QImageReader>
 #include <QMessageBox>
-#include <QMimeData>
 #include <QScreen>
 #include <QStyle>
 
 #include <Tavik/LenConverter>
+#include <Tavik/TavikColorWiring>
 #include <Tavik/TavikLabel>
 #include <Tavik/TavikScrollArea>
 
@@ -75,7 +75,7 @@ PosterWindow::PosterWindow(QWidget *parent)
     layout->setColumnStretch(0, 1);
     layout->setRowStretch(1, 1);
 
-    setAcceptDrops(true);
+    connect(new FileDrop(this), &FileDrop::dropped, this, &PosterWindow::addPhotographs);
     connectExporter();
     connect(&m_poster, &Poster::photographMissing, m_messages, &MessageBar::complain);
     connect(m_poster.undoStack(), &QUndoStack::cleanChanged, this, &PosterWindow::showTitle);
@@ -133,7 +133,7 @@ QWidget *PosterWindow::buildPanels()
     connect(m_photographs, &PhotoPanel::filesWanted, this, &PosterWindow::askForPhotographs);
     connect(size, &ExportPanel::exportWanted, this, &PosterWindow::askToExport);
 
-    auto *colours = new ColourWiring(this);
+    auto *colours = new TavikColorWiring(this);
     colours->serve(m_photographs->groundButton());
     colours->serve(gradient->bar());
     colours->serve(caption->textButton());
@@ -281,12 +281,7 @@ void PosterWindow::addPhotographs(const QStringList &files)
 
 void PosterWindow::askForPhotographs()
 {
-    QStringList patterns;
-    const QList<QByteArray> formats = QImageReader::supportedImageFormats();
-    for (const QByteArray &format : formats)
-        patterns.append(QStringLiteral("*.") + QString::fromLatin1(format));
-    addPhotographs(QFileDialog::getOpenFileNames(this, tr("Add photographs"), QString(),
-                                                 tr("Pictures (%1)").arg(patterns.join(QLatin1Char(' ')))));
+    addPhotographs(PictureFiles::ask(this, tr("Add photographs")));
 }
 
 QString PosterWindow::message() const
@@ -323,22 +318,4 @@ bool PosterWindow::mayClose()
         QMessageBox::question(this, tr("Close"), tr("Save the changes to this poster?"),
                               QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
     return answer == QMessageBox::Discard || (answer == QMessageBox::Save && save());
-}
-
-void PosterWindow::dragEnterEvent(QDragEnterEvent *event)
-{
-    if (event->mimeData()->hasUrls())
-        event->acceptProposedAction();
-}
-
-void PosterWindow::dropEvent(QDropEvent *event)
-{
-    QStringList files;
-    const QList<QUrl> urls = event->mimeData()->urls();
-    for (const QUrl &url : urls) {
-        if (url.isLocalFile())
-            files.append(url.toLocalFile());
-    }
-    event->acceptProposedAction();
-    addPhotographs(files);
 }

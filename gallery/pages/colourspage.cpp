@@ -19,13 +19,11 @@ void ColoursPage::addWiring()
         tr("Each control only asks for a popup. The answer goes to the one that asked last; below stands "
            "what all of them emit."),
         ColourSpecimens::wired(),
-        QStringLiteral("connect(fill, &TavikColorButton::showPopup, this,\n"
-                       "        [=](const QPoint &pos, const QColor &color) {\n"
-                       "    disconnect(m_answer); // of the control that asked before\n"
-                       "    m_answer = connect(popup, &TavikColorPopup::colorChanged, fill,\n"
-                       "        [=](QColor c) { if (c.isValid()) fill->setCurrentColor(c); });\n"
-                       "    popup->showColorPopup(pos, color);\n"
-                       "});"));
+        QStringLiteral("auto *wiring = new TavikColorWiring(this);\n"
+                       "wiring->serve(fill);\n"
+                       "wiring->serve(line);\n"
+                       "wiring->serve(glow);\n"
+                       "wiring->serve(gradient);"));
 }
 
 void ColoursPage::addPopup()

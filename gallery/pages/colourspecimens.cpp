@@ -1,7 +1,6 @@
 #include "colourspecimens.h"
 
 #include "look.h"
-#include "popupwiring.h"
 #include "report.h"
 #include "signallog.h"
 #include "stategrid.h"
@@ -15,6 +14,7 @@
 #include <Tavik/TavikColorPopup>
 #include <Tavik/TavikColorSilder>
 #include <Tavik/TavikColorWell>
+#include <Tavik/TavikColorWiring>
 #include <Tavik/TavikGradientBar>
 
 namespace {
@@ -26,7 +26,7 @@ TavikColorButton *colorButton(const QColor &color)
     return button;
 }
 
-QWidget *wiredButton(const QString &name, const QColor &color, PopupWiring *wiring, SignalLog *log)
+QWidget *wiredButton(const QString &name, const QColor &color, TavikColorWiring *wiring, SignalLog *log)
 {
     TavikColorButton *button = colorButton(color);
     QObject::connect(button, &TavikColorButton::showPopup, log, [=](const QPoint &, const QColor &asked) {
@@ -37,7 +37,7 @@ QWidget *wiredButton(const QString &name, const QColor &color, PopupWiring *wiri
     return Look::captioned(button, name);
 }
 
-QWidget *wiredBar(const QString &name, PopupWiring *wiring, SignalLog *log)
+QWidget *wiredBar(const QString &name, TavikColorWiring *wiring, SignalLog *log)
 {
     auto *bar = new TavikGradientBar(20.0, 2.667);
     bar->setStartColor(QColor(0x08, 0xa2, 0x74));
@@ -80,7 +80,7 @@ QWidget *ColourSpecimens::wired()
 {
     auto *column = new QWidget;
     auto *log = new SignalLog;
-    auto *wiring = new PopupWiring(column);
+    auto *wiring = new TavikColorWiring(column);
     const QString popupName = tr("Popup");
     log->follow(wiring->popup(), &TavikColorPopup::colorChanged, popupName, QStringLiteral("colorChanged"));
     QObject::connect(wiring->popup(), &TavikColorPopup::colorPopupHide, log,

@@ -2,6 +2,7 @@
 
 #include "look.h"
 #include "report.h"
+#include "shared/comboplace.h"
 #include "stategrid.h"
 
 #include <QFontInfo>
@@ -10,25 +11,20 @@
 
 namespace {
 
-/// Gives the combo boxes of a specimen their size, where they stand.
-///
-/// The least size of the look comes with polishing, again under each new parent, and overrules what was
-/// set.
-QWidget *sized(QWidget *specimen, double width = 12)
+constexpr double height = 2.667; // rem
+
+TavikComboBox *filled(TavikComboBox::Type type, const QStringList &texts)
 {
-    const QList<TavikComboBox *> combos = specimen->findChildren<TavikComboBox *>();
-    for (TavikComboBox *combo : combos) {
-        combo->ensurePolished();
-        combo->setRemSize(width, 2.667);
-    }
-    return specimen;
+    auto *combo = new TavikComboBox(type);
+    combo->addItems(texts);
+    return combo;
 }
 
-QWidget *live(const QString &name, TavikComboBox *combo)
+QWidget *live(const QString &name, TavikComboBox *combo, double width = 12)
 {
     auto *report = new Report(20);
     report->follow(combo, &QComboBox::currentTextChanged, QStringLiteral("currentTextChanged"));
-    return Look::live(name, combo, report);
+    return Look::live(name, new ComboPlace(combo, width, height), report);
 }
 
 } // namespace
@@ -36,13 +32,8 @@ QWidget *live(const QString &name, TavikComboBox *combo)
 QWidget *ComboSpecimens::types()
 {
     const QStringList units{tr("Pixels"), tr("Millimetres"), tr("Inches"), tr("Points")};
-    const auto filled = [&units](TavikComboBox::Type type) {
-        auto *combo = new TavikComboBox(type);
-        combo->addItems(units);
-        return combo;
-    };
-    return sized(Look::row({live(QStringLiteral("ReadOnly"), filled(TavikComboBox::ReadOnly)),
-                            live(QStringLiteral("Editable"), filled(TavikComboBox::Editable))}));
+    return Look::row({live(QStringLiteral("ReadOnly"), filled(TavikComboBox::ReadOnly, units)),
+                      live(QStringLiteral("Editable"), filled(TavikComboBox::Editable, units))});
 }
 
 QWidget *ComboSpecimens::fontFamilies()
@@ -61,7 +52,7 @@ QWidget *ComboSpecimens::fontFamilies()
     };
     QObject::connect(families, &QComboBox::currentTextChanged, sample, show);
     families->setCurrentText(QFontInfo(sample->font()).family());
-    return sized(Look::row({live(tr("Family"), families), sample}), 18);
+    return Look::row({live(tr("Family"), families, 18), sample});
 }
 
 QWidget *ComboSpecimens::states()
@@ -70,12 +61,10 @@ QWidget *ComboSpecimens::states()
     auto *grid = new StateGrid({State::Rest, State::Hover, State::Disabled});
     const auto addRow = [grid](const QString &name, TavikComboBox::Type type) {
         grid->addRow(name, [type] {
-            auto *combo = new TavikComboBox(type);
-            combo->addItems({tr("Pixels"), tr("Millimetres")});
-            return combo;
+            return new ComboPlace(filled(type, {tr("Pixels"), tr("Millimetres")}), 12, height);
         });
     };
     addRow(QStringLiteral("ReadOnly"), TavikComboBox::ReadOnly);
     addRow(QStringLiteral("Editable"), TavikComboBox::Editable);
-    return sized(grid);
+    return grid;
 }

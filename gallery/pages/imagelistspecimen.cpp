@@ -1,11 +1,11 @@
 #include "imagelistspecimen.h"
 
-#include "filedrop.h"
 #include "look.h"
 #include "ownpictures.h"
 #include "report.h"
+#include "shared/filedrop.h"
+#include "shared/picturefiles.h"
 
-#include <QFileDialog>
 #include <QImageReader>
 #include <QVBoxLayout>
 
@@ -48,10 +48,5 @@ void ImageListSpecimen::addPictures(const QStringList &files)
 
 void ImageListSpecimen::choosePictures()
 {
-    QStringList patterns;
-    const QList<QByteArray> formats = QImageReader::supportedImageFormats();
-    for (const QByteArray &format : formats)
-        patterns.append(QStringLiteral("*.") + QString::fromLatin1(format));
-    addPictures(QFileDialog::getOpenFileNames(this, tr("Add pictures"), QString(),
-                                              tr("Pictures (%1)").arg(patterns.join(QLatin1Char(' ')))));
+    addPictures(PictureFiles::ask(this, tr("Add pictures")));
 }

@@ -1,4 +1,4 @@
-#include "filedrop.h"
+#include "shared/filedrop.h"
 
 #include <QDropEvent>
 #include <QMimeData>

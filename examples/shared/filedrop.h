@@ -1,5 +1,5 @@
-#ifndef GALLERY_FILEDROP_H
-#define GALLERY_FILEDROP_H
+#ifndef SHARED_FILEDROP_H
+#define SHARED_FILEDROP_H
 
 #include <QObject>
 
