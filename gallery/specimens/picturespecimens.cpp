@@ -26,13 +26,13 @@ QWidget *PictureSpecimens::threeDrawings()
     const QSize size = LenConverter::iniRemToPxSz(32, 32);
     const QIcon icon = IconTool::constructIcon(
         ":/Color/images/gradient", size);
-    const QPixmap normal = icon.pixmap(
-        size, QIcon::Normal, QIcon::On);
     const QPixmap active = icon.pixmap(
         size, QIcon::Active, QIcon::On);
+    //! [threeDrawings]
+    const QPixmap normal = icon.pixmap(
+        size, QIcon::Normal, QIcon::On);
     const QPixmap selected = icon.pixmap(
         size, QIcon::Selected, QIcon::On);
-    //! [threeDrawings]
     const auto drawing = [](const QPixmap &pixmap,
                              const QString &name) {
         auto *picture = new QLabel;

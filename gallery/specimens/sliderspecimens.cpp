@@ -34,8 +34,8 @@ QWidget *SliderSpecimens::sliders()
 
 QWidget *SliderSpecimens::dials()
 {
-    const int side = LenConverter::remToPx(6);
     //! [dials]
+    const int side = LenConverter::remToPx(6);
     auto *angle = new TavikDial;
     angle->setFixedSize(side, side);
     angle->setRange(0, 359);
@@ -68,10 +68,10 @@ QWidget *SliderSpecimens::states()
         const int side = LenConverter::remToPx(5);
         //! [states]
         auto *volume = new TavikDial;
-        volume->setFixedSize(side, side);
         volume->setRange(0, 100);
         volume->setValue(50);
         //! [states]
+        volume->setFixedSize(side, side);
         return volume;
     });
     return grid;
