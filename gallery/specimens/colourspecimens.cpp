@@ -1,7 +1,6 @@
 #include "colourspecimens.h"
 
 #include "look.h"
-#include "pages/popupwiring.h"
 #include "pages/signallog.h"
 #include "report.h"
 #include "stategrid.h"
@@ -15,6 +14,7 @@
 #include <Tavik/TavikColorPopup>
 #include <Tavik/TavikColorSilder>
 #include <Tavik/TavikColorWell>
+#include <Tavik/TavikColorWiring>
 #include <Tavik/TavikGradientBar>
 
 namespace {
@@ -28,8 +28,8 @@ TavikColorButton *colorButton(const QColor &color)
     return fill;
 }
 
-QWidget *wiredButton(const QString &name, const QColor &color,
-    PopupWiring *wiring, SignalLog *log)
+TavikColorButton *loggedButton(
+    const QString &name, const QColor &color, SignalLog *log)
 {
     TavikColorButton *button = colorButton(color);
     QObject::connect(button, &TavikColorButton::showPopup, log,
@@ -39,12 +39,10 @@ QWidget *wiredButton(const QString &name, const QColor &color,
         });
     log->follow(button, &TavikColorButton::colorChanged, name,
         "colorChanged");
-    wiring->serve(button);
-    return Look::captioned(button, name);
+    return button;
 }
 
-QWidget *wiredBar(
-    const QString &name, PopupWiring *wiring, SignalLog *log)
+TavikGradientBar *loggedBar(const QString &name, SignalLog *log)
 {
     auto *bar = new TavikGradientBar(20.0, 2.667);
     bar->setStartColor(QColor(0x08, 0xa2, 0x74));
@@ -58,8 +56,7 @@ QWidget *wiredBar(
         "selectedStartColor");
     log->follow(bar, &TavikGradientBar::selectedEndColor, name,
         "selectedEndColor");
-    wiring->serve(bar);
-    return Look::captioned(bar, name);
+    return bar;
 }
 
 /// The text of a report for a signal that carries a colour.
@@ -88,32 +85,39 @@ QWidget *liveSlider(
 
 QWidget *ColourSpecimens::wired()
 {
-    auto *column = new QWidget;
+    auto *window = new QWidget;
     auto *log = new SignalLog;
+    TavikColorButton *fill = loggedButton(
+        tr("Fill"), QColor(0x08, 0xa2, 0x74), log);
+    TavikColorButton *line = loggedButton(
+        tr("Line"), QColor(0x40, 0x40, 0x40), log);
+    TavikColorButton *glow = loggedButton(
+        tr("Glow"), QColor(0xf3, 0x98, 0x0f, 0x80), log);
+    TavikGradientBar *gradient = loggedBar(tr("Gradient"), log);
     //! [wired]
-    auto *wiring = new PopupWiring(column);
+    auto *wiring = new TavikColorWiring(window);
+    wiring->serve(fill);
+    wiring->serve(line);
+    wiring->serve(glow);
+    wiring->serve(gradient);
     //! [wired]
-    const QString popupName = tr("Popup");
+    const QString popup = tr("Popup");
     log->follow(wiring->popup(), &TavikColorPopup::colorChanged,
-        popupName, "colorChanged");
+        popup, "colorChanged");
     QObject::connect(wiring->popup(),
-        &TavikColorPopup::colorPopupHide, log, [=] {
-            log->tell(popupName, "colorPopupHide", QString());
-        });
+        &TavikColorPopup::colorPopupHide, log,
+        [=] { log->tell(popup, "colorPopupHide", QString()); });
 
-    auto *layout = new QVBoxLayout(column);
+    auto *layout = new QVBoxLayout(window);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(LenConverter::remToPx(Look::SmallGap));
     layout->addWidget(
-        Look::row({wiredButton(tr("Fill"),
-                       QColor(0x08, 0xa2, 0x74), wiring, log),
-            wiredButton(tr("Line"), QColor(0x40, 0x40, 0x40),
-                wiring, log),
-            wiredButton(tr("Glow"),
-                QColor(0xf3, 0x98, 0x0f, 0x80), wiring, log),
-            wiredBar(tr("Gradient"), wiring, log)}));
+        Look::row({Look::captioned(fill, tr("Fill")),
+            Look::captioned(line, tr("Line")),
+            Look::captioned(glow, tr("Glow")),
+            Look::captioned(gradient, tr("Gradient"))}));
     layout->addWidget(log);
-    return column;
+    return window;
 }
 
 QWidget *ColourSpecimens::popup()

@@ -24,8 +24,8 @@ void TavikColorWiring::serve(TavikColorButton *button)
 {
     if (!button)
         return;
-    disconnect(button, &TavikColorButton::showPopup, this, nullptr);
-    connect(button, &TavikColorButton::showPopup, this, [=](const QPoint &pos, const QColor &color) {
+    disconnect(button, &TavikColorButton::showPopup, &m_requests, nullptr);
+    connect(button, &TavikColorButton::showPopup, &m_requests, [=](const QPoint &pos, const QColor &color) {
         open(button, pos, color, [=](const QColor &chosen) { button->setCurrentColor(chosen); });
     });
 }
@@ -34,14 +34,15 @@ void TavikColorWiring::serve(TavikGradientBar *bar)
 {
     if (!bar)
         return;
-    disconnect(bar, &TavikGradientBar::colorPopupRequest, this, nullptr);
-    connect(bar, &TavikGradientBar::colorPopupRequest, this, [=](const QPoint &pos, const QColor &color) {
-        // Another side may be selected while the popup is open.
-        const auto set = bar->selectedSide() == TavikGradientBar::StartSide
-                             ? &TavikGradientBar::setStartColor
-                             : &TavikGradientBar::setEndColor;
-        open(bar, pos, color, [=](const QColor &chosen) { (bar->*set)(chosen); });
-    });
+    disconnect(bar, &TavikGradientBar::colorPopupRequest, &m_requests, nullptr);
+    connect(bar, &TavikGradientBar::colorPopupRequest, &m_requests,
+            [=](const QPoint &pos, const QColor &color) {
+                // Another side may be selected while the popup is open.
+                const auto set = bar->selectedSide() == TavikGradientBar::StartSide
+                                     ? &TavikGradientBar::setStartColor
+                                     : &TavikGradientBar::setEndColor;
+                open(bar, pos, color, [=](const QColor &chosen) { (bar->*set)(chosen); });
+            });
 }
 
 void TavikColorWiring::open(QWidget *control, const QPoint &pos, const QColor &color, const Take &take)
