@@ -27,13 +27,6 @@ QWidget *rowAtPresentRem()
     return Look::row({button, size, pixels});
 }
 
-TavikButton *sendButton()
-{
-    auto *button = new TavikButton(tr(QT_TRANSLATE_NOOP("GuideSamples", "Send")));
-    button->setRemSize(7, 2.333);
-    return button;
-}
-
 } // namespace
 
 QWidget *GuideSamples::start()
@@ -59,21 +52,6 @@ QWidget *GuideSamples::lengths()
     }
     LenConverter::m_rem = present;
     return rows;
-}
-
-QWidget *GuideSamples::styling()
-{
-    TavikButton *stored = sendButton();
-    TavikButton *restyled = sendButton();
-    for (TavikButton *button : {stored, restyled}) {
-        button->setBgColor(QStringLiteral("#108ee9"));
-        button->setBorderRadius(QStringLiteral("14"));
-    }
-    restyled->updateStyleSheet();
-    return Look::row(
-        {Look::captioned(sendButton(), tr(QT_TRANSLATE_NOOP("GuideSamples", "as made"))),
-         Look::captioned(stored, tr(QT_TRANSLATE_NOOP("GuideSamples", "after the setters"))),
-         Look::captioned(restyled, tr(QT_TRANSLATE_NOOP("GuideSamples", "after updateStyleSheet()")))});
 }
 
 QWidget *GuideSamples::wiring()

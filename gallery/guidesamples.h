@@ -12,9 +12,6 @@ QWidget *start();
 /// The same row of controls at each number of pixels per rem.
 QWidget *lengths();
 
-/// Buttons in their own look, changed and not yet restyled, and restyled.
-QWidget *styling();
-
 /// Two controls that ask for a colour, and the popup below the first.
 QWidget *wiring();
 

@@ -43,9 +43,11 @@ void Look::apply(QApplication &app)
 void Look::setRem(int rem)
 {
     LenConverter::m_rem = rem;
+    //! [font]
     QFont font = QApplication::font();
     font.setPixelSize(TypographyTool::defualtFontSz().toInt());
     QApplication::setFont(font);
+    //! [font]
 }
 
 QFont Look::codeFont()
@@ -108,9 +110,10 @@ QWidget *Look::live(const QString &name, QWidget *control, QWidget *report)
     return column;
 }
 
-QWidget *Look::row(std::initializer_list<QWidget *> widgets)
+QWidget *Look::row(std::initializer_list<QWidget *> widgets, QWidget *row)
 {
-    auto *row = new QWidget;
+    if (!row)
+        row = new QWidget;
     auto *layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(LenConverter::remToPx(SmallGap));

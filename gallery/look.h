@@ -48,8 +48,8 @@ QWidget *captioned(QWidget *widget, const QString &caption);
 /// A name, a control and what it reports, one below the other, from the left.
 QWidget *live(const QString &name, QWidget *control, QWidget *report);
 
-/// Widgets side by side, at their own sizes, from the left.
-QWidget *row(std::initializer_list<QWidget *> widgets);
+/// Widgets side by side, at their own sizes, from the left; in a new widget, or in one that has no layout yet.
+QWidget *row(std::initializer_list<QWidget *> widgets, QWidget *row = nullptr);
 
 } // namespace Look
 

@@ -26,12 +26,12 @@ Page::Page(const QString &introduction)
 }
 
 void Page::addExample(Span span, const QString &name, const QString &description, QWidget *specimen,
-                      const QString &code)
+                      const Snippet &code)
 {
     if (m_column + span > Whole) {
         ++m_row;
         m_column = 0;
     }
-    m_examples->addWidget(new Example(name, description, specimen, code), m_row, m_column, 1, span);
+    m_examples->addWidget(new Example(name, description, specimen, code.text()), m_row, m_column, 1, span);
     m_column += span;
 }

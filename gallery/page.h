@@ -1,6 +1,8 @@
 #ifndef GALLERY_PAGE_H
 #define GALLERY_PAGE_H
 
+#include "snippet.h"
+
 #include <QWidget>
 
 class QGridLayout;
@@ -20,7 +22,7 @@ protected:
 
     /// Adds a card at the next free place; the card takes over the specimen.
     void addExample(Span span, const QString &name, const QString &description, QWidget *specimen,
-                    const QString &code = {});
+                    const Snippet &code = {});
 
 private:
     QGridLayout *m_examples;

@@ -87,12 +87,10 @@ QString Specimen::stateName(State state)
     return {};
 }
 
-void Specimen::hold(QWidget *widget, State state)
+void Specimen::hold(QWidget *control, State state)
 {
     if (state == State::Rest)
         return;
-    // It may be only the place of a control.
-    QWidget *control = widget->focusProxy() ? widget->focusProxy() : widget;
     // The real pointer and the keyboard would take the control out of its state.
     control->setAttribute(Qt::WA_TransparentForMouseEvents);
     control->setFocusPolicy(Qt::NoFocus);

@@ -14,8 +14,8 @@ enum class State { Rest, Hover, Pressed, Focus, Checked, ReadOnly, Disabled };
 /// The state's name, for people.
 QString stateName(State state);
 
-/// Puts a control into a state and keeps it there, or the one that the widget gives its focus to.
-void hold(QWidget *widget, State state);
+/// Puts a control into a state and keeps it there.
+void hold(QWidget *control, State state);
 
 } // namespace Specimen
 

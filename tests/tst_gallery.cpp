@@ -5,6 +5,7 @@
 #include <pagetable.h>
 #include <pictureswriter.h>
 #include <remchoice.h>
+#include <snippet.h>
 
 #include <QProcess>
 #include <QScrollArea>
@@ -16,6 +17,7 @@ class TestGallery : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
+    void snippets();
     void nothingIsClipped();
     void picturesWithoutADisplay();
     void badArguments();
@@ -44,6 +46,16 @@ Outcome runGallery(const QStringList &arguments)
 }
 
 } // namespace
+
+void TestGallery::snippets()
+{
+    const QString source =
+        QStringLiteral("    //! [whole]\n    if (a)\n        b;\n    //! [open]\n    //! [whole]\n"
+                       "    c;\n  //! [whole]\n  d;\n  //! [whole]\n");
+    QCOMPARE(Snippet::find(source, QStringLiteral("whole")), QStringLiteral("if (a)\n    b;\nd;"));
+    for (const char *name : {"open", "unknown"})
+        QVERIFY2(Snippet::find(source, QLatin1String(name)).isEmpty(), name);
+}
 
 void TestGallery::nothingIsClipped()
 {

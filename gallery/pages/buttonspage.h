@@ -12,14 +12,8 @@ public:
     ButtonsPage();
 
 private:
-    void addTypes();
-    void addIconAndText();
-    void addIconAlone();
-    void addPictureButton();
-    void addColours();
-    void addCaption();
-    void addCorners();
-    void addFontSize();
+    void addIcons();
+    void addLooks();
 };
 
 #endif

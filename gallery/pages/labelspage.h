@@ -10,12 +10,6 @@ class LabelsPage : public Page
 
 public:
     LabelsPage();
-
-private:
-    void addTypes();
-    void addLook();
-    void addForm();
-    QWidget *buildForm();
 };
 
 #endif

@@ -2,23 +2,25 @@
 
 #include "look.h"
 #include "picturerow.h"
-#include "transparentswatch.h"
+#include "specimens/picturespecimens.h"
 
 #include <QDir>
 #include <QGridLayout>
-#include <QLabel>
 
-#include <Tavik/IconTool>
 #include <Tavik/LenConverter>
-#include <Tavik/TavikButton>
 
 PicturesPage::PicturesPage()
     : Page(tr("Thirty pictures come inside the library and can be used by their paths, here at 12, 16, 24 "
               "and 40 design pixels."))
 {
-    addUse();
-    addThreeDrawings();
-    addTransparency();
+    addExample(Half, tr("Use a picture"), tr("A path works in icons, in pixmaps and in style sheets."),
+               PictureSpecimens::use(), {"picturespecimens", "use"});
+    addExample(Half, tr("Three drawings in one icon"),
+               tr("One path without extension: _hover and _press are added to it."),
+               PictureSpecimens::threeDrawings(), {"picturespecimens", "threeDrawings"});
+    addExample(Half, tr("Behind a transparent colour"),
+               tr("The texture is tiled first, then the colour painted over it."),
+               PictureSpecimens::transparency(), {"transparentswatch", "paint"});
     addFolder(Half, QStringLiteral("Check"), tr("Indicators of check boxes."));
     addFolder(Half, QStringLiteral("Radio"), tr("Indicators of radio buttons."));
     addFolder(Half, QStringLiteral("SpinboxArrow"), tr("Arrows of spin boxes and combo boxes."),
@@ -30,53 +32,6 @@ PicturesPage::PicturesPage()
     addFolder(Whole, QStringLiteral("Color"),
               tr("For everything that has to do with colours. Three sets have a drawing for each state of "
                  "a picture button; the texture goes behind transparent colours."));
-}
-
-void PicturesPage::addUse()
-{
-    const QIcon icon(QStringLiteral(":/Button/images/delete_grey.svg"));
-    auto *button =
-        new TavikButton(icon, QSizeF(1.333, 1.333), QLatin1Char(' ') + tr("Remove"), TavikButton::Outline);
-    button->setRemSize(9, 2.667);
-    addExample(Half, tr("Use a picture"), tr("A path works in icons, in pixmaps and in style sheets."),
-               Look::row({button}),
-               QStringLiteral("const QIcon icon(\":/Button/images/delete_grey.svg\");\n"
-                              "new TavikButton(icon, QSizeF(1.333, 1.333),\n"
-                              "                \" \" + tr(\"Remove\"),\n"
-                              "                TavikButton::Outline, this);"));
-}
-
-void PicturesPage::addThreeDrawings()
-{
-    const QSize size = LenConverter::iniRemToPxSz(32, 32);
-    const QIcon icon = IconTool::constructIcon(QStringLiteral(":/Color/images/gradient"), size);
-    const auto drawing = [&](QIcon::Mode mode, const QString &name) {
-        auto *picture = new QLabel;
-        picture->setPixmap(icon.pixmap(size, mode, QIcon::On));
-        return Look::captioned(picture, name);
-    };
-    addExample(Half, tr("Three drawings in one icon"),
-               tr("One path without extension: _hover and _press are added to it."),
-               Look::row({drawing(QIcon::Normal, QStringLiteral("Normal")),
-                          drawing(QIcon::Active, QStringLiteral("Active")),
-                          drawing(QIcon::Selected, QStringLiteral("Selected"))}),
-               QStringLiteral("const QIcon icon = IconTool::constructIcon(\n"
-                              "    \":/Color/images/gradient\", QSize(32, 32));\n"
-                              "icon.pixmap(32, QIcon::Active, QIcon::On);"));
-}
-
-void PicturesPage::addTransparency()
-{
-    const auto swatch = [](int alpha) {
-        QColor color = Look::Accent;
-        color.setAlpha(alpha);
-        return new TransparentSwatch(color);
-    };
-    addExample(Half, tr("Behind a transparent colour"),
-               tr("The texture is tiled first, then the colour painted over it."),
-               Look::row({swatch(0), swatch(128), swatch(255)}),
-               QStringLiteral("painter.fillRect(rect(), QBrush(IconTool::alphaTexture()));\n"
-                              "painter.fillRect(rect(), QColor(8, 162, 116, 128));"));
 }
 
 void PicturesPage::addFolder(Span span, const QString &folder, const QString &description,

@@ -12,9 +12,6 @@ public:
     PicturesPage();
 
 private:
-    void addUse();
-    void addThreeDrawings();
-    void addTransparency();
     void addFolder(Span span, const QString &folder, const QString &description,
                    const QColor &ground = Qt::white);
 };

@@ -1,4 +1,4 @@
-#include "shared/comboplace.h"
+#include "comboplace.h"
 
 #include <Tavik/TavikComboBox>
 

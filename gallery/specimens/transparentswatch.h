@@ -10,7 +10,8 @@ class TransparentSwatch : public QWidget
     Q_OBJECT
 
 public:
-    explicit TransparentSwatch(const QColor &color, QWidget *parent = nullptr);
+    explicit TransparentSwatch(
+        const QColor &color, QWidget *parent = nullptr);
 
 protected:
     void paintEvent(QPaintEvent *event) override;

@@ -4,6 +4,8 @@
 #include <QCoreApplication>
 
 class QWidget;
+class TavikExpandable;
+class TavikScrollArea;
 
 /// Specimens of TavikContainer, TavikExpandable and TavikScrollArea.
 class ContainerSpecimens
@@ -15,13 +17,19 @@ public:
     static QWidget *row();
 
     /// A panel of settings, with what it reports.
-    static QWidget *expandable(bool isOpen);
+    static QWidget *openPanel();
+    static QWidget *closedPanel();
 
     /// A list that is too long for its area.
     static QWidget *scrollArea();
 
     /// The same in colours of an application's own.
     static QWidget *colouredScrollArea();
+
+private:
+    static QWidget *filled(
+        TavikExpandable *shadow, const QString &name);
+    static QWidget *filled(TavikScrollArea *area);
 };
 
 #endif

@@ -14,22 +14,29 @@
 
 ImageListSpecimen::ImageListSpecimen(QWidget *parent)
     : QWidget(parent)
-    , m_list(new TavikImageList)
     , m_report(new Report(20))
 {
-    m_list->setIconRemSz(18, 13.5);
+    //! [imageList]
+    m_list = new TavikImageList;
+    m_list->setIconRemSz(18, 13.5); // before the first picture
     m_list->setSpacing(LenConverter::iniRemToPx(4));
     m_list->setFixedHeight(LenConverter::remToPx(31));
+    //! [imageList]
     addPictures(OwnPictures::paths());
-    connect(m_list, &QListWidget::itemSelectionChanged, m_report, [this] {
-        m_report->tell(QStringLiteral("itemSelectionChanged"),
-                       tr("%n selected", nullptr, m_list->selectedItems().size()));
-    });
-    connect(new FileDrop(m_list->viewport()), &FileDrop::dropped, this, &ImageListSpecimen::addPictures);
+    connect(m_list, &QListWidget::itemSelectionChanged, m_report,
+        [this] {
+            m_report->tell("itemSelectionChanged",
+                tr("%n selected", nullptr,
+                    m_list->selectedItems().size()));
+        });
+    connect(new FileDrop(m_list->viewport()), &FileDrop::dropped,
+        this, &ImageListSpecimen::addPictures);
 
-    auto *add = new TavikButton(tr("Add pictures..."), TavikButton::Outline);
+    auto *add = new TavikButton(
+        tr("Add pictures..."), TavikButton::Outline);
     add->setRemSize(12, 2.667);
-    connect(add, &QPushButton::clicked, this, &ImageListSpecimen::choosePictures);
+    connect(add, &QPushButton::clicked, this,
+        &ImageListSpecimen::choosePictures);
 
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -40,10 +47,12 @@ ImageListSpecimen::ImageListSpecimen(QWidget *parent)
 
 void ImageListSpecimen::addPictures(const QStringList &files)
 {
+    //! [imageList]
     for (const QString &file : files) {
         if (QImageReader(file).canRead())
             m_list->addImage(file);
     }
+    //! [imageList]
 }
 
 void ImageListSpecimen::choosePictures()

@@ -5,7 +5,8 @@
 #include <Tavik/IconTool>
 #include <Tavik/LenConverter>
 
-TransparentSwatch::TransparentSwatch(const QColor &color, QWidget *parent)
+TransparentSwatch::TransparentSwatch(
+    const QColor &color, QWidget *parent)
     : QWidget(parent)
     , m_color(color)
 {
@@ -14,7 +15,9 @@ TransparentSwatch::TransparentSwatch(const QColor &color, QWidget *parent)
 
 void TransparentSwatch::paintEvent(QPaintEvent *)
 {
+    //! [paint]
     QPainter painter(this);
     painter.fillRect(rect(), QBrush(IconTool::alphaTexture()));
     painter.fillRect(rect(), m_color);
+    //! [paint]
 }
