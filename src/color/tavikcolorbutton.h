@@ -13,11 +13,7 @@
 /// \code
 /// auto *fill = new TavikColorButton(Qt::red, this);
 /// fill->setRemSize(6, 2);
-/// connect(fill, &TavikColorButton::showPopup, popup, &TavikColorPopup::showColorPopup);
-/// connect(popup, &TavikColorPopup::colorChanged, fill, [=](const QColor &color) {
-///     if (color.isValid()) // a half-typed hexadecimal value is not
-///         fill->setCurrentColor(color);
-/// });
+/// wiring->serve(fill); // a TavikColorWiring, which opens a popup for it
 /// connect(fill, &TavikColorButton::colorChanged, shape, &Shape::setFill);
 /// \endcode
 ///

@@ -17,8 +17,8 @@ class TavikLineEdit;
 /// A colour chooser in a small window with an arrow that points to the control that asked for it.
 ///
 /// It holds a saturation/value square, sliders for hue and alpha, fields for hexadecimal, RGB, alpha and CMY
-/// values, a palette, and a sampler that takes a colour from anywhere on the screen. The application makes one
-/// popup and connects it; one popup can serve any number of controls:
+/// values, a palette, and a sampler that takes a colour from anywhere on the screen. One popup can serve any number
+/// of controls: TavikColorWiring makes one and connects it. For a single button it can be done by hand:
 /// \code
 /// auto *popup = new TavikColorPopup(this);
 /// connect(button, &TavikColorButton::showPopup, popup, &TavikColorPopup::showColorPopup);

@@ -12,15 +12,7 @@
 ///
 /// \code
 /// auto *bar = new TavikGradientBar(16.0, 2.0, this);   // 16 by 2 rem
-/// connect(bar, &TavikGradientBar::colorPopupRequest, popup, &TavikColorPopup::showColorPopup);
-/// connect(popup, &TavikColorPopup::colorChanged, bar, [=](const QColor &color) {
-///     if (!color.isValid()) // as a half-typed hexadecimal value
-///         return;
-///     if (bar->selectedSide() == TavikGradientBar::StartSide)
-///         bar->setStartColor(color);
-///     else
-///         bar->setEndColor(color);
-/// });
+/// wiring->serve(bar);   // a TavikColorWiring, which opens a popup for it
 /// connect(bar, &TavikGradientBar::selectedStartColor, chart, &Chart::setLowColor);
 /// \endcode
 ///
