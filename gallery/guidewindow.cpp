@@ -1,6 +1,7 @@
 #include "guidewindow.h"
 
 #include "look.h"
+#include "shared/comboplace.h"
 
 #include <QHBoxLayout>
 
@@ -120,9 +121,7 @@ void GuideWindow::comboBox()
     auto *unit = new TavikComboBox(this);
     unit->addItems({"Millimetres", "Pixels"});
     //! [TavikComboBox]
-    fill(this, unit);
-    unit->ensurePolished();
-    unit->setRemSize(14, 2.333);
+    fill(this, new ComboPlace(unit, 14, 2.333));
 }
 
 void GuideWindow::fontFamilyComboBox()
@@ -133,9 +132,7 @@ void GuideWindow::fontFamilyComboBox()
     connect(family, &QComboBox::currentTextChanged, this,
             [=](const QString &name) { setFont(QFont(name)); });
     //! [TavikFontFamilyComboBox]
-    fill(this, family);
-    family->ensurePolished();
-    family->setRemSize(14, 2.333);
+    fill(this, new ComboPlace(family, 14, 2.333));
 }
 
 void GuideWindow::slider()

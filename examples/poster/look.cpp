@@ -1,6 +1,6 @@
 #include "look.h"
 
-#include "comboplace.h"
+#include "shared/comboplace.h"
 
 #include <QApplication>
 #include <QFontDatabase>

@@ -2,6 +2,7 @@
 
 #include "look.h"
 #include "report.h"
+#include "shared/comboplace.h"
 #include "stategrid.h"
 
 #include <QFontInfo>
@@ -10,29 +11,14 @@
 
 namespace {
 
-/// Gives the combo boxes of a specimen their size, where they stand.
-///
-/// The least size of the look comes with polishing, again under each new parent, and overrules what was
-/// set.
-QWidget *sized(QWidget *specimen, double width = 12)
-{
-    const QList<TavikComboBox *> combos =
-        specimen->findChildren<TavikComboBox *>();
-    for (TavikComboBox *unit : combos) {
-        //! [states]
-        unit->ensurePolished();
-        unit->setRemSize(width, 2.667);
-        //! [states]
-    }
-    return specimen;
-}
-
-QWidget *live(const QString &name, TavikComboBox *combo)
+QWidget *live(
+    const QString &name, TavikComboBox *combo, double width = 12)
 {
     auto *report = new Report(20);
     report->follow(combo, &QComboBox::currentTextChanged,
         "currentTextChanged");
-    return Look::live(name, combo, report);
+    return Look::live(
+        name, new ComboPlace(combo, width, 2.667), report);
 }
 
 } // namespace
@@ -47,8 +33,8 @@ QWidget *ComboSpecimens::types()
     auto *anyUnit = new TavikComboBox(TavikComboBox::Editable);
     anyUnit->addItems(units);
     //! [types]
-    return sized(Look::row(
-        {live("ReadOnly", unit), live("Editable", anyUnit)}));
+    return Look::row(
+        {live("ReadOnly", unit), live("Editable", anyUnit)});
 }
 
 QWidget *ComboSpecimens::fontFamilies()
@@ -70,8 +56,7 @@ QWidget *ComboSpecimens::fontFamilies()
         family, &QComboBox::currentTextChanged, sample, show);
     //! [fontFamilies]
     family->setCurrentText(QFontInfo(sample->font()).family());
-    return sized(
-        Look::row({live(tr("Family"), family), sample}), 18);
+    return Look::row({live(tr("Family"), family, 18), sample});
 }
 
 QWidget *ComboSpecimens::states()
@@ -89,5 +74,13 @@ QWidget *ComboSpecimens::states()
     };
     addRow("ReadOnly", TavikComboBox::ReadOnly);
     addRow("Editable", TavikComboBox::Editable);
-    return sized(grid);
+    const QList<TavikComboBox *> combos =
+        grid->findChildren<TavikComboBox *>();
+    for (TavikComboBox *unit : combos) {
+        //! [states]
+        unit->ensurePolished();
+        unit->setRemSize(12, 2.667);
+        //! [states]
+    }
+    return grid;
 }

@@ -1,5 +1,5 @@
-#ifndef POSTER_COMBOPLACE_H
-#define POSTER_COMBOPLACE_H
+#ifndef SHARED_COMBOPLACE_H
+#define SHARED_COMBOPLACE_H
 
 #include <Tavik/TavikContainer>
 
@@ -9,7 +9,7 @@ class TavikComboBox;
 ///
 /// \code
 /// auto *unit = new TavikComboBox;
-/// row->addWidget(new ComboPlace(unit, 14, 2.5));   // rem
+/// row->addWidget(new ComboPlace(unit, 14, 2.333));   // rem
 /// \endcode
 ///
 /// A combo box takes the least size of its look whenever it is polished, anew under each parent, and with it loses a

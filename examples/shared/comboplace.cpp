@@ -1,4 +1,4 @@
-#include "comboplace.h"
+#include "shared/comboplace.h"
 
 #include <Tavik/TavikComboBox>
 
