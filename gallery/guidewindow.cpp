@@ -1,7 +1,7 @@
 #include "guidewindow.h"
 
+#include "common/comboplace.h"
 #include "look.h"
-#include "shared/comboplace.h"
 
 #include <QHBoxLayout>
 

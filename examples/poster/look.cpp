@@ -1,6 +1,6 @@
 #include "look.h"
 
-#include "shared/comboplace.h"
+#include "common/comboplace.h"
 
 #include <QApplication>
 #include <QFontDatabase>

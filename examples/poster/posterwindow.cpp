@@ -1,6 +1,8 @@
 #include "posterwindow.h"
 
 #include "captionpanel.h"
+#include "common/filedrop.h"
+#include "common/picturefiles.h"
 #include "exportpanel.h"
 #include "gradientpanel.h"
 #include "header.h"
@@ -9,8 +11,6 @@
 #include "photopanel.h"
 #include "preview.h"
 #include "settingsfile.h"
-#include "shared/filedrop.h"
-#include "shared/picturefiles.h"
 
 #include <QApplication>
 #include <QCloseEvent>

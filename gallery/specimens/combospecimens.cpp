@@ -1,8 +1,8 @@
 #include "combospecimens.h"
 
+#include "common/comboplace.h"
 #include "look.h"
 #include "report.h"
-#include "shared/comboplace.h"
 #include "stategrid.h"
 
 #include <QFontInfo>

@@ -1,10 +1,10 @@
 #include "imagelistspecimen.h"
 
+#include "common/filedrop.h"
+#include "common/picturefiles.h"
 #include "look.h"
 #include "ownpictures.h"
 #include "report.h"
-#include "shared/filedrop.h"
-#include "shared/picturefiles.h"
 
 #include <QImageReader>
 #include <QVBoxLayout>

@@ -1,4 +1,4 @@
-#include "shared/comboplace.h"
+#include "common/comboplace.h"
 
 #include <Tavik/TavikComboBox>
 

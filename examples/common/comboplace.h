@@ -1,5 +1,5 @@
-#ifndef SHARED_COMBOPLACE_H
-#define SHARED_COMBOPLACE_H
+#ifndef COMMON_COMBOPLACE_H
+#define COMMON_COMBOPLACE_H
 
 #include <Tavik/TavikContainer>
 

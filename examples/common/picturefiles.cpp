@@ -1,4 +1,4 @@
-#include "shared/picturefiles.h"
+#include "common/picturefiles.h"
 
 #include <QFileDialog>
 #include <QImageReader>

@@ -1,5 +1,5 @@
-#ifndef SHARED_PICTUREFILES_H
-#define SHARED_PICTUREFILES_H
+#ifndef COMMON_PICTUREFILES_H
+#define COMMON_PICTUREFILES_H
 
 #include <QCoreApplication>
 #include <QStringList>

@@ -1,4 +1,4 @@
-#include "shared/filedrop.h"
+#include "common/filedrop.h"
 
 #include <QDropEvent>
 #include <QMimeData>

@@ -1,5 +1,5 @@
-#ifndef SHARED_FILEDROP_H
-#define SHARED_FILEDROP_H
+#ifndef COMMON_FILEDROP_H
+#define COMMON_FILEDROP_H
 
 #include <QObject>
 
