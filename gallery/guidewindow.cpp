@@ -219,9 +219,9 @@ void GuideWindow::imageList()
     photographs->setIconRemSz(6, 4.5); // before the first image
     photographs->setRemWidth(22);
     photographs->setFixedHeight(LenConverter::remToPx(5.167));
+    //! [TavikImageList]
     for (const QString name : {"dawn", "desert", "forest"})
         photographs->addImage(":/gallery/pictures/" + name + ".svg");
-    //! [TavikImageList]
     fill(this, photographs);
 }
 

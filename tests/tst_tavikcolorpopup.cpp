@@ -383,6 +383,7 @@ void TestTavikColorPopup::samplerOverAModalDialog()
 
 void TestTavikColorPopup::sameShadow()
 {
+    QApplication::setCursorFlashTime(0); // a text cursor that is there, or not, by chance
     for (const int rem : Support::rems) {
         LenConverter::m_rem = rem;
         // One after the other, for only one window has the focus.

@@ -6,8 +6,8 @@ namespace {
 
 constexpr int margin = PopupOutline::shadowRadius;
 constexpr int tip = PopupOutline::tipOffset;
-constexpr int left = tip - 10; // the arrow's feet
-constexpr int right = tip + 10;
+constexpr int leftFoot = tip - 10; // of the arrow
+constexpr int rightFoot = tip + 10;
 constexpr int separatorOffset = 295; // below the box's upper edge
 
 } // namespace
@@ -20,12 +20,12 @@ PopupOutline::PopupOutline(const QSize &size, bool arrowUp)
     const int top = margins().top();
     if (arrowUp) {
         const int bottom = arrowHeight + innerHeight - 2 * margin;
-        m_polygon = {{margin, top},     {left, top},          {tip, margin},   {right, top},
+        m_polygon = {{margin, top},     {leftFoot, top},      {tip, margin},   {rightFoot, top},
                      {innerRight, top}, {innerRight, bottom}, {margin, bottom}};
     } else {
         const int bottom = innerHeight - margin;
-        m_polygon = {{margin, top},   {innerRight, top},           {innerRight, bottom},
-                     {right, bottom}, {tip, arrowHeight + bottom}, {left, bottom},
+        m_polygon = {{margin, top},       {innerRight, top},           {innerRight, bottom},
+                     {rightFoot, bottom}, {tip, arrowHeight + bottom}, {leftFoot, bottom},
                      {margin, bottom}};
     }
     const int lineY = top + separatorOffset;

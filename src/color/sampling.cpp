@@ -2,11 +2,6 @@
 
 #include "color/screenshot_p.h"
 
-Sampling::~Sampling()
-{
-    delete m_sampler;
-}
-
 void Sampling::start()
 {
     auto *sampler = new Screenshot(nullptr);
@@ -19,6 +14,11 @@ void Sampling::start()
 Screenshot *Sampling::sampler() const
 {
     return m_sampler;
+}
+
+void Sampling::stop()
+{
+    delete m_sampler;
 }
 
 void Sampling::end(const QPointer<Screenshot> &finished)

@@ -6,15 +6,12 @@
 
 class Screenshot;
 
-/// The runs of a popup's sampler, one at a time. The last one goes with it.
+/// The runs of a popup's sampler, one at a time.
 class Sampling : public QObject
 {
     Q_OBJECT
 
 public:
-    Sampling() = default;
-    ~Sampling() override;
-
     /// Starts a run in place of the one before, which may be in the middle of its own signal. Its window closes
     /// the popup as it shows itself, while sampler() still is that of the run before.
     void start();
@@ -22,6 +19,9 @@ public:
     /// The sampler that runs, or was left by Escape; null when there is none, or the application, among whose
     /// windows it is, has deleted it.
     Screenshot *sampler() const;
+
+    /// Deletes the sampler.
+    void stop();
 
     /// Forgets the sampler, unless it is that of another run by now.
     void end(const QPointer<Screenshot> &finished);

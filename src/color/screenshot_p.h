@@ -31,8 +31,8 @@ public:
     /// Takes the picture of the desktop, the only one of the run, and shows the window.
     explicit Screenshot(QWidget *parent);
 
-    /// Moves the frame as the pointer at a position does, in pixels of the window, and reads the colour there at once:
-    /// the next call may be pick().
+    /// Moves the frame as the pointer at a position does, in pixels of the window. Once the window is on the screen, it
+    /// reads the colour there at once: the next call may be pick().
     void moveTo(const QPoint &pos);
 
     /// Picks the colour that the frame shows, and closes.

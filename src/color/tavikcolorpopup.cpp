@@ -35,6 +35,7 @@ TavikColorPopup::~TavikColorPopup()
     const QList<QWidget *> controls = findChildren<QWidget *>();
     for (const QWidget *control : controls)
         control->disconnect(this);
+    m_sampling->stop(); // while there still is a popup that it may hide
 }
 
 QColor TavikColorPopup::currentColor() const

@@ -118,7 +118,6 @@ private:
     std::unique_ptr<PopupOutline> m_outline;
     QColor m_currentColor;
     QPoint m_anchor;
-    // Last, and so the first to go: the sampler's window may repaint and hide others as it closes.
     std::unique_ptr<Sampling> m_sampling;
 };
 

@@ -48,7 +48,8 @@ public:
     /// wiring belongs to nobody, and the popup to the wiring.
     explicit TavikColorWiring(QWidget *window = nullptr);
 
-    /// Deletes the popup too. Within a signal of the popup, call deleteLater() instead.
+    /// Deletes the popup too. Within a signal of the popup, or of a control that gets its colour just then, call
+    /// deleteLater() instead.
     ~TavikColorWiring() override;
 
     /// The popup, to be watched. What is chosen after it was opened by hand still goes to the control that asked

@@ -3,15 +3,14 @@
 
 #include <QRect>
 #include <QString>
-#include <QVector>
 
 #include <functional>
 
 class QObject;
 class QWidget;
 
-/// What a control offers to keyboard and screen reader: the parts that it paints, to press or to drag, by number, 0
-/// to count() - 1. What is done to a part has the effects and signals that the mouse has.
+/// What a control offers to keyboard and screen reader: its parts, to press or to drag, by number, 0 to count() - 1.
+/// What is done to a part has the effects and signals that the mouse has.
 ///
 /// A class for it stands beside each such control.
 class ControlParts
@@ -39,8 +38,12 @@ public:
     /// Goes as near to the value as the handle can.
     virtual void setValue(int, int) {}
 
-    /// Calls `changed` with the number of a handle that may have moved, as long as `context` lives.
-    virtual void follow(QObject *, const std::function<void(int)> &) const {}
+    /// Calls `changed` with the number of a part that may have changed, as long as `context` lives.
+    virtual void follow(QObject *context, const std::function<void(int)> &changed) const
+    {
+        Q_UNUSED(context)
+        Q_UNUSED(changed)
+    }
 };
 
 #endif

@@ -24,7 +24,7 @@ protected:
     QWidget *control() const;
 
     /// A key was pressed while the control has the focus. True if it has done something.
-    virtual bool press(const QKeyEvent &key) = 0;
+    virtual bool press(const QKeyEvent &) { return false; }
 
     virtual void enter(const QFocusEvent &) {}
 };

@@ -24,9 +24,3 @@ bool PopupKeys::eventFilter(QObject *watched, QEvent *event)
         m_parts->square()->setFocus(Qt::PopupFocusReason);
     return false;
 }
-
-/// Its controls have the keys.
-bool PopupKeys::press(const QKeyEvent &)
-{
-    return false;
-}

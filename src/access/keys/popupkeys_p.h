@@ -19,9 +19,6 @@ public:
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
-protected:
-    bool press(const QKeyEvent &key) override;
-
 private:
     std::unique_ptr<PopupParts> m_parts;
 };
