@@ -121,6 +121,9 @@ void TestClasses::sheetsOfChangedControls()
     QCOMPARE(
         combo.view()->styleSheet(),
         resized("combobox-view-12").replace(QLatin1String("height: 20px"), QLatin1String("height: 30px")));
+    TavikLineEdit edit;
+    edit.setFontPxSz(27);
+    QCOMPARE(edit.styleSheet(), resized("lineedit-12"));
     TavikDoubleSpinbox fraction;
     fraction.setFontRemSz(1.5);
     QCOMPARE(fraction.styleSheet(), resized("doublespinbox-12"));

@@ -327,9 +327,10 @@ void TestContainers::imageListRefuses()
     QVERIFY(qAbs(list.item(0)->icon().pixmap(60).toImage().pixelColor(30, 30).red() - 100) < 3);
     list.addImage(path("large.png"));
     list.addImage(path("pipe.png"));
+    list.addImage(path("pipe")); // the toolkit completes it
     list.setIconRemSz(1e9, 1e9);
     list.addImage(QStringLiteral(":/Color/images/color.svg"));
-    for (int row = 1; row < 4; ++row)
+    for (int row = 1; row < 5; ++row)
         QVERIFY(list.item(row)->icon().isNull());
     list.show();
     list.grab();

@@ -3,6 +3,8 @@
 #include <Tavik/LenConverter>
 #include <Tavik/TypographyTool>
 
+#include <QScreen>
+
 #include <climits>
 #include <cmath>
 
@@ -16,6 +18,7 @@ private Q_SLOTS:
     void convertsAtEachRem();
     void textForms();
     void pixelsThereAndBack();
+    void screenFacts();
 };
 
 // What m_rem is before any test function and any widget.
@@ -82,6 +85,14 @@ void TestLenConverter::pixelsThereAndBack()
         for (int px = 0; px < 5000; ++px)
             QCOMPARE(LenConverter::remToPx(LenConverter::pxToRem(px)), px);
     }
+}
+
+void TestLenConverter::screenFacts()
+{
+    const QSize available = QGuiApplication::primaryScreen()->availableSize();
+    QCOMPARE(QSize(LenConverter::deviceWidth(), LenConverter::deviceHeight()), available);
+    QCOMPARE(LenConverter::scale(), available.width() / 1920.0);
+    TypographyTool::setFontHint(nullptr); // does nothing
 }
 
 TAVIK_TEST_MAIN(TestLenConverter)

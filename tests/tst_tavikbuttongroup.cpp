@@ -18,6 +18,7 @@ private Q_SLOTS:
     void seams();
     void clicks();
     void stateWhenNothingIsReported();
+    void paintsItsBackground();
     void setCheckedId();
 };
 
@@ -173,6 +174,14 @@ void TestTavikButtonGroup::stateWhenNothingIsReported()
     button(group, 1)->click();
     button(group, 1)->click();
     QVERIFY(seen);
+}
+
+void TestTavikButtonGroup::paintsItsBackground()
+{
+    TavikButtonGroup group(Horizontal);
+    group.setStyleSheet(QStringLiteral("TavikButtonGroup{border: 4px solid #123456;}"));
+    group.resize(40, 40);
+    QCOMPARE(Support::picture(&group).pixelColor(1, 20), QColor("#123456"));
 }
 
 void TestTavikButtonGroup::setCheckedId()

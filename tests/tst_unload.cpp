@@ -74,8 +74,8 @@ void TestUnload::leavesNothing()
 
         // Whatever it has left behind would be called now.
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-        const QWidget fresh(&window);
-        QCOMPARE(QAccessible::queryAccessibleInterface(const_cast<QWidget *>(&fresh))->childCount(), 0);
+        QWidget fresh(&window);
+        QCOMPARE(QAccessible::queryAccessibleInterface(&fresh)->childCount(), 0);
         QVERIFY(!window.findChild<QFocusFrame *>());
     }
     QVERIFY(!QFile::exists(picture));

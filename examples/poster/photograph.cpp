@@ -5,12 +5,13 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QImageReader>
+#include <QPixelFormat>
 
 namespace {
 
 const QLatin1String ownPrefix("own:");
 
-// What a photograph may hold in memory: four bytes each.
+// What a photograph may hold in memory: four bytes each, or half as many of eight.
 constexpr qint64 mostMegapixels = 128;
 
 } // namespace
@@ -34,12 +35,14 @@ Photograph::Photograph(const QString &name)
 /// Returns why it can't be read.
 QString Photograph::read(const QString &file)
 {
-    if (QFileInfo::exists(file) && !QFileInfo(file).isFile())
-        return tr("it is no file"); // a pipe would never end
+    const QFileInfo info(file);
+    if (!info.isFile()) // a pipe would never end, and the toolkit completes a name that there is not
+        return info.exists() ? tr("it is no file") : tr("there is no such file");
     QImageReader reader(file);
     reader.setAutoTransform(true); // a camera held upright says so in its file
     const QSize size = reader.size();
-    if (qint64(size.width()) * size.height() > mostMegapixels * 1000000)
+    const int bits = QImage::toPixelFormat(reader.imageFormat()).bitsPerPixel();
+    if (qint64(size.width()) * size.height() * qMax(1, bits / 32) > mostMegapixels * 1000000)
         return tr("it has more than %1 megapixels").arg(mostMegapixels);
     m_image = reader.read();
     return m_image.isNull() ? reader.errorString() : QString();

@@ -10,6 +10,12 @@
 #include <QJsonDocument>
 #include <QSaveFile>
 
+namespace {
+
+constexpr qint64 mostBytes = 1024 * 1024;
+
+} // namespace
+
 SettingsFile::SettingsFile(const QString &path)
     : m_path(path)
 {
@@ -22,6 +28,8 @@ QString SettingsFile::read(PosterSettings &settings) const
     QFile file(m_path);
     if (!file.open(QIODevice::ReadOnly))
         return fault(file.errorString());
+    if (file.size() > mostBytes)
+        return fault(tr("it is too large to be a poster"));
     QJsonParseError mistake;
     const QJsonDocument document = QJsonDocument::fromJson(file.readAll(), &mistake);
     if (mistake.error != QJsonParseError::NoError)

@@ -10,11 +10,11 @@
 
 namespace {
 
-TavikLineEdit *makeEdit(TavikLineEdit::Type type, double designWidth)
+TavikLineEdit *makeEdit(TavikLineEdit::Type type, double width)
 {
     auto *edit = new TavikLineEdit(QString(), type, Qt::AlignHCenter | Qt::AlignVCenter);
     edit->setFontPxSz(LenConverter::iniRemToPx(12));
-    edit->setFixedSize(LenConverter::iniRemToPxSz(designWidth, 20));
+    edit->setFixedSize(LenConverter::iniRemToPxSz(width, 20));
     return edit;
 }
 

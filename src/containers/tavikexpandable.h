@@ -67,7 +67,7 @@ public:
     void addSpacerItem(QSpacerItem *item);
 
     /// Present height of the content in rem; between 0 and somewhat above the open height while the
-    /// animation runs.
+    /// animation runs. A closed panel tells its new open height after updateExpandedHeight().
     double remExpandHeight() const;
 
     /// Sets the present height of the content, in rem, and emits remExpandHeightChanged(). The animation

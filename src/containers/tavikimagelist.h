@@ -35,9 +35,10 @@ public:
     /// adds an empty tile.
     ///
     /// So does one that would hold the application up: what is no regular file, as a pipe or a device; a picture
-    /// of more than 67 million pixels (2^26; the largest screens have half of that), unless its format can be
-    /// read at the icon size, as JPEG can, which then gives slightly other pixels and ends at 2^28; and any
-    /// picture while the icon size has more than 2^26 pixels.
+    /// of more than 67 million pixels (2^26; the largest screens have half of that, and one of 64 bits a pixel
+    /// counts twice), unless its format can be read at the icon size, as a JPEG can that is not progressive, which
+    /// then gives slightly other pixels and ends at 2^28; and any picture while the icon size has more than 2^26
+    /// pixels. Pictures within pictures, as in ICO and SVG files, are not looked at.
     void addImage(const QString &fileName);
 
 protected:
