@@ -124,6 +124,9 @@ void TestClasses::sheetsOfChangedControls()
     TavikLineEdit edit;
     edit.setFontPxSz(27);
     QCOMPARE(edit.styleSheet(), resized("lineedit-12"));
+    edit.setFontRemSz(2);
+    edit.setFontRemSz(1.5);
+    QCOMPARE(edit.styleSheet(), resized("lineedit-12"));
     TavikDoubleSpinbox fraction;
     fraction.setFontRemSz(1.5);
     QCOMPARE(fraction.styleSheet(), resized("doublespinbox-12"));

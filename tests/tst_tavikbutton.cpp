@@ -22,6 +22,7 @@ private Q_SLOTS:
     void pictureAndCaption();
     void sizes();
     void pictureButton();
+    void pictureButtonWithoutIcon();
 };
 
 namespace {
@@ -107,6 +108,7 @@ void TestTavikButton::pictureAndCaption()
     auto button = std::make_unique<TavikButton>(QStringLiteral(":/Color/images/color.svg"), QSize(24, 12),
                                                 new QLabel(tr("caption")));
     QVERIFY(button->styleSheet().isEmpty());
+    QCOMPARE(static_cast<QLayoutItem *>(button->layout())->alignment(), Qt::AlignCenter);
     QWidget *picture = button->layout()->itemAt(0)->widget();
     QCOMPARE(picture->size(), QSize(36, 18));
     const QImage shown = Support::picture(picture);
@@ -161,6 +163,18 @@ void TestTavikButton::pictureButton()
         pixmap.fill(colour);
         QCOMPARE(Support::picture(&button), pixmap.toImage().convertToFormat(QImage::Format_ARGB32));
     }
+}
+
+void TestTavikButton::pictureButtonWithoutIcon()
+{
+    TavikButton button(tr("never drawn"));
+    button.setIsPaintOverrided(true);
+    button.resize(60, 30);
+    QImage ground(60, 30, QImage::Format_ARGB32);
+    ground.fill(Qt::magenta);
+    QImage painted = ground;
+    button.render(&painted, QPoint(), QRegion(), {});
+    QCOMPARE(painted, ground);
 }
 
 TAVIK_TEST_MAIN(TestTavikButton)

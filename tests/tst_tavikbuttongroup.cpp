@@ -68,6 +68,7 @@ void TestTavikButtonGroup::directions()
     const TavikButtonGroup group;
     QCOMPARE(boxOf(group)->direction(), QBoxLayout::TopToBottom);
     QCOMPARE(boxOf(group)->spacing(), 0);
+    QCOMPARE(static_cast<const QLayoutItem *>(boxOf(group))->alignment(), Qt::AlignCenter);
 }
 
 void TestTavikButtonGroup::buttonsOfEachKind()
