@@ -73,6 +73,7 @@ void TestContainers::container()
 {
     LenConverter::m_rem = 18;
     QCOMPARE(boxOf(TavikContainer(Direction(-7)))->direction(), QBoxLayout::LeftToRight);
+    QCOMPARE(boxOf(TavikContainer(Vertical))->direction(), QBoxLayout::TopToBottom);
     TavikContainer box(Horizontal);
     const QBoxLayout *layout = boxOf(box);
     QCOMPARE(layout->direction(), QBoxLayout::LeftToRight);
@@ -88,6 +89,10 @@ void TestContainers::container()
     QCOMPARE(layout->count(), 3);
     box.setRemSize(QSizeF(10, 5));
     QCOMPARE(box.size(), QSize(180, 90));
+    box.setContentMargin(12);
+    QCOMPARE(layout->contentsMargins(), QMargins(12, 12, 12, 12));
+    box.removeMargins();
+    QCOMPARE(layout->contentsMargins(), QMargins(0, 0, 0, 0));
 }
 
 void TestContainers::containerLook()
@@ -111,18 +116,30 @@ void TestContainers::expandableParts()
 {
     LenConverter::m_rem = 18;
     TavikExpandable panel(QString(), 5.0, false);
+    QCOMPARE(panel.layout()->spacing(), 0);
+    QCOMPARE(panel.layout()->contentsMargins(), QMargins(0, 0, 0, 0));
+    QCOMPARE(animationOf(panel)->duration(), 500);
     QCOMPARE(animationOf(panel)->easingCurve().type(), QEasingCurve::OutBack);
 
     const QWidget *bar = titleBar(panel);
     QCOMPARE(bar->minimumHeight(), 42);
+    QCOMPARE(bar->layout()->contentsMargins(), QMargins(0, 0, 0, 0));
+    QCOMPARE(bar->layout()->itemAt(0)->sizeHint(), QSize(24, 0));
+    QCOMPARE(bar->layout()->itemAt(2)->expandingDirections(), Qt::Horizontal);
     QCOMPARE(panel.findChild<TavikButton *>()->size(), QSize(42, 42));
+    QCOMPARE(bar->layout()->itemAt(4)->sizeHint(), QSize(16, 0));
     panel.setTitle(QStringLiteral("Other"));
     QCOMPARE(panel.findChild<TavikLabel *>()->text(), QStringLiteral("Other"));
 
     const QLayout *inner = content(panel)->layout()->itemAt(0)->widget()->layout();
+    QCOMPARE(inner->contentsMargins(), QMargins(1, 1, 1, 1));
     QCOMPARE(static_cast<const QLayoutItem *>(inner)->alignment(), Qt::AlignHCenter | Qt::AlignTop);
+    panel.addWidget(new QWidget);
+    QCOMPARE(inner->count(), 1);
     panel.setSpacing(0.5);
     QCOMPARE(inner->spacing(), 9);
+    panel.setRemWidth(20);
+    QCOMPARE(panel.maximumWidth(), 360);
 }
 
 void TestContainers::expandableToggles()
@@ -276,6 +293,11 @@ void TestContainers::scrollArea()
 void TestContainers::imageList()
 {
     TavikImageList list;
+    QCOMPARE(list.selectionMode(), QAbstractItemView::ExtendedSelection);
+    QCOMPARE(list.movement(), QListView::Static);
+    QCOMPARE(list.resizeMode(), QListView::Adjust);
+    list.setIconRemSz(2, 1);
+    QCOMPARE(list.iconSize(), QSize(24, 12));
     list.setRemWidth(30);
     QCOMPARE(list.maximumWidth(), 360);
     list.addImage(QStringLiteral(":/Color/images/color.svg"));

@@ -38,6 +38,8 @@ void TestInputs::spinboxes()
     const TavikSpinbox mirrored(0, 9, 1, nullptr, true, -1.0); // a font size below 0 is one too
     QVERIFY(mirrored.styleSheet().contains(QLatin1String(";font-size: -10px;")));
     TavikSpinbox whole(-5, 5, 2, nullptr, true);
+    QCOMPARE(whole.minimum(), -5);
+    QCOMPARE(whole.maximum(), 5);
     QCOMPARE(whole.alignment(), Qt::AlignHCenter);
     whole.setRemSize(8, 2);
     QCOMPARE(whole.size(), QSize(80, 20));
@@ -45,6 +47,8 @@ void TestInputs::spinboxes()
     QTest::keyClick(&whole, Qt::Key_Up); // its buttons are hidden
     QCOMPARE(whole.value(), 2);
     TavikDoubleSpinbox fraction(-0.5, 0.5, 0.125);
+    QCOMPARE(fraction.minimum(), -0.5);
+    QCOMPARE(fraction.maximum(), 0.5);
     QCOMPARE(fraction.singleStep(), 0.125);
     QCOMPARE(fraction.alignment(), Qt::AlignHCenter);
 }
