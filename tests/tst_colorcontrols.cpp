@@ -63,6 +63,7 @@ void TestColorControls::sliderLooks()
     slider.setColors({Qt::white, Qt::white});
     const QImage picture = Support::picture(&slider);
     QCOMPARE(picture.pixelColor(80, 3), QColor("#a0a0a0")); // #404040 at half strength
+    QVERIFY(picture.pixelColor(80, 10) != QColor(Qt::white));
     QVERIFY(picture.pixelColor(157, 6) != QColor(Qt::white));
     QCOMPARE(picture.pixelColor(156, 9), QColor(Qt::white));
     TavikColorSilder alpha(166, 16, TavikColorSilder::Alpha);
@@ -139,6 +140,7 @@ void TestColorControls::sliderHandleFill()
     QCOMPARE(fillAfter(QEvent::MouseButtonPress, inside, Qt::RightButton), pressed);
     QCOMPARE(fillAfter(QEvent::MouseButtonPress, outside, Qt::LeftButton), normal);
     QCOMPARE(fillAfter(QEvent::MouseMove, inside, Qt::NoButton), hovered);
+    QCOMPARE(fillAfter(QEvent::MouseMove, inside, Qt::RightButton), hovered);
     QCOMPARE(fillAfter(QEvent::MouseMove, inside, Qt::LeftButton), pressed);
     QCOMPARE(fillAfter(QEvent::MouseMove, outside, Qt::LeftButton), normal);
     Support::drag(&slider, inside);
