@@ -75,6 +75,7 @@ void TestAccessible::square()
     QCOMPARE(interface->text(QAccessible::Description), value);
 
     QAccessibleValueInterface *slider = interface->valueInterface();
+    QCOMPARE(slider->minimumValue().toInt(), 0);
     QCOMPARE(slider->maximumValue().toInt(), 100);
     slider->setCurrentValue(65);
     QCOMPARE(slider->currentValue().toInt(), 65);
@@ -91,6 +92,7 @@ void TestAccessible::palette()
     QCOMPARE(interface->role(), QAccessible::Table);
     QCOMPARE(nameOf(interface), QStringLiteral("Palette"));
     QAccessibleTableInterface *table = interface->tableInterface();
+    QCOMPARE(table->rowCount(), 2);
     QCOMPARE(table->columnCount(), 8);
     QCOMPARE(interface->childCount(), 16);
     for (int i = 0; i < 16; ++i) {

@@ -73,6 +73,7 @@ void TestColorControls::sliderLooks()
 void TestColorControls::sliderColours()
 {
     const TavikColorSilder hue(166, 16);
+    QCOMPARE(hue.maximum(), 360);
     for (int sixth = 0; sixth <= 6; ++sixth)
         QCOMPARE(hue.colors().value(sixth).rgb(), QColor::fromHsv(sixth % 6 * 60, 255, 255).rgb());
     const TavikColorSilder alpha(166, 16, TavikColorSilder::Alpha);

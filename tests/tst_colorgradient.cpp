@@ -85,6 +85,11 @@ void TestColorGradient::coloursSet()
     QCOMPARE(argument(emissions.endColor), QColor(Qt::blue));
     bar.setEndColor(Qt::blue); // told again
     QCOMPARE(emissions.endColor.size(), 2);
+    const QSignalSpy told(&bar, &TavikGradientBar::endValueChanged);
+    bar.setStartValue(500);
+    bar.setEndValue(-3);
+    QCOMPARE(bar.startValue(), 500);
+    QCOMPARE(told.count(), 0);
 }
 
 void TestColorGradient::presses()
@@ -157,6 +162,14 @@ void TestColorGradient::drags()
         Support::drag(&bar, {100, 12});
         QCOMPARE(emissions.startColor.size() + emissions.endColor.size(), row.accepted);
         QCOMPARE(emissions.request.size(), 0);
+    }
+    TavikGradientBar bar(200, 24);
+    Support::PaintCounter paints(&bar);
+    for (const auto &[handle, to] : {std::pair(startHandle, 60), std::pair(endHandle, 150)}) {
+        Support::press(&bar, {handle, 12});
+        QCOMPARE(paints.take(), 0);
+        Support::drag(&bar, {to, 12});
+        QCOMPARE(paints.take(), 1);
     }
 }
 

@@ -143,6 +143,7 @@ void TestColorPicker::settersAreSilent()
     picker.setCurrentColor(Qt::green);
     QCOMPARE(paints.take(), 0);
     picker.setCurrentHue(1.0);
+    QCOMPARE(paints.take(), 1);
     QCOMPARE(picker.currentHue(), 1);
     picker.setCurrentHue(0.999);
     QCOMPARE(picker.currentHue(), 0);

@@ -81,6 +81,8 @@ void TestInputs::comboBoxes()
     QVERIFY(editable.isEditable());
     // What the toolkit gives an editable box is left alone.
     QVERIFY(editable.completer());
+    for (const QWidget *part : QWidgetList{editable.view(), editable.lineEdit()})
+        QCOMPARE(part->font().hintingPreference(), QFont::PreferVerticalHinting);
     QVERIFY(!TavikComboBox(TavikComboBox::Type(5)).isEditable());
     TavikComboBox box;
     QVERIFY(!box.isEditable());

@@ -25,6 +25,7 @@ private Q_SLOTS:
     void markIsSeenAroundTheTitle();
     void markStaysWhileChildrenHide();
     void marksNoListThatDropsDown();
+    void sheetForAllWidgets();
     void coversLaterWidgets();
     void offByDefault();
 };
@@ -323,6 +324,15 @@ void TestKeyboardAccess::marksNoListThatDropsDown()
     type({Qt::Key_Space});
     QTRY_COMPARE(QApplication::focusWidget(), stage.control->view());
     QVERIFY(!stage.control->view()->window()->findChild<QFocusFrame *>());
+}
+
+void TestKeyboardAccess::sheetForAllWidgets()
+{
+    TavikColorWell well;
+    well.setStyleSheet(QStringLiteral("QWidget { background-color: #ffeecc }"));
+    const QImage before = Support::picture(&well);
+    TavikKeyboardAccess::install(&well);
+    QCOMPARE(Support::picture(&well), before);
 }
 
 void TestKeyboardAccess::coversLaterWidgets()

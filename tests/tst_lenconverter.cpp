@@ -18,7 +18,7 @@ private Q_SLOTS:
     void convertsAtEachRem();
     void textForms();
     void pixelsThereAndBack();
-    void screenFacts();
+    void screenAndFont();
 };
 
 // What m_rem is before any test function and any widget.
@@ -87,11 +87,15 @@ void TestLenConverter::pixelsThereAndBack()
     }
 }
 
-void TestLenConverter::screenFacts()
+void TestLenConverter::screenAndFont()
 {
     const QSize available = QGuiApplication::primaryScreen()->availableSize();
     QCOMPARE(QSize(LenConverter::deviceWidth(), LenConverter::deviceHeight()), available);
     QCOMPARE(LenConverter::scale(), available.width() / 1920.0);
+    QWidget widget;
+    widget.setFont(QFont(QString(), -1, -1, true)); // italic
+    TypographyTool::setFontHint(&widget);
+    QVERIFY(widget.font().italic());
     TypographyTool::setFontHint(nullptr); // does nothing
 }
 

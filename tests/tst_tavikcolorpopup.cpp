@@ -226,6 +226,7 @@ void TestTavikColorPopup::typing_data()
     row("yellow", Y, "255", {1, 1, 1}, "323200 50 50 0 40 205 205 255");
     row("alpha stays empty", A, "<", {1}, "323232 50 50 50  205 205 205");
     row("six digits", Hex, "<0ac81e", {1, 1, 1, 1, 1, 1, 1}, "0ac81e 10 200 30 40 245 55 225");
+    row("three are short for six", Hex, "<abc", {1, 1, 1, 1}, "abc 170 187 204 40 85 68 51");
     row("four are none", Hex, "<abcd", {1, 1, 1, 1, 1}, "abcd 0 0 0 40 255 255 255");
 }
 
@@ -369,6 +370,11 @@ void TestTavikColorPopup::samplerRuns()
     popup.show();
     popup.hide();
     QCOMPARE(hidden.count(), 3);
+
+    auto gone = std::make_unique<TavikColorPopup>();
+    const QPointer<QWidget> left = startSampler(*gone);
+    gone.reset();
+    QVERIFY(!left);
 }
 
 void TestTavikColorPopup::samplerOverAModalDialog()
