@@ -46,5 +46,5 @@ const PageEntry *findPage(const QString &name)
     const QVector<PageEntry> &table = pageTable();
     const auto found = std::find_if(table.begin(), table.end(),
                                     [&name](const PageEntry &page) { return page.name == name; });
-    return found == table.end() ? nullptr : found;
+    return found == table.end() ? nullptr : &*found;
 }

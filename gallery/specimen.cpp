@@ -30,9 +30,14 @@ void hover(QWidget *control)
     const QPoint point = livePoint(control);
     // Being under the pointer is not enough for a button, which waits for a move, nor for a control of
     // several parts, which asks where the pointer is.
-    QMouseEvent move(QEvent::MouseMove, point, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    const QPoint onScreen = control->mapToGlobal(point);
+    QMouseEvent move(QEvent::MouseMove, point, onScreen, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
     QCoreApplication::sendEvent(control, &move);
+#if QT_VERSION < QT_VERSION_CHECK(6, 3, 0)
     QHoverEvent enter(QEvent::HoverEnter, point, QPoint(-1, -1));
+#else
+    QHoverEvent enter(QEvent::HoverEnter, point, onScreen, QPoint(-1, -1));
+#endif
     QCoreApplication::sendEvent(control, &enter);
 }
 
@@ -43,8 +48,9 @@ void press(QWidget *control)
         button->setDown(true);
         return;
     }
-    QMouseEvent click(QEvent::MouseButtonPress, livePoint(control), Qt::LeftButton, Qt::LeftButton,
-                      Qt::NoModifier);
+    const QPoint point = livePoint(control);
+    QMouseEvent click(QEvent::MouseButtonPress, point, control->mapToGlobal(point), Qt::LeftButton,
+                      Qt::LeftButton, Qt::NoModifier);
     QCoreApplication::sendEvent(control, &click);
     // A spin box would step on and on by its timers.
     QAbstractEventDispatcher::instance()->unregisterTimers(control);

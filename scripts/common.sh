@@ -1,10 +1,38 @@
-# What the other scripts share; they read it in with `.`.
+# What the other scripts share; they read it in with `.`, which takes `--qt 5` or `--qt 6` out of their arguments.
 
 caller=$PWD # where the script was called
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
-build_packages=(g++ cmake ninja-build qtbase5-dev libqt5svg5)
+qt=5
+arguments=()
+while [ $# -gt 0 ]; do
+    case $1 in
+        --qt) qt=${2:-}; shift ;;
+        --qt=*) qt=${1#--qt=} ;;
+        *) arguments+=("$1") ;;
+    esac
+    [ $# -eq 0 ] || shift
+done
+set -- "${arguments[@]}"
+
+build_packages=(g++ cmake ninja-build)
 font_packages=(fonts-inter fonts-jetbrains-mono)
+case $qt in
+    5)
+        build_packages+=(qtbase5-dev libqt5svg5)
+        linguist_packages=(qttools5-dev)
+        wayland_packages=(qtwayland5)
+        ;;
+    6)
+        build_packages+=(qt6-base-dev libqt6svg6)
+        linguist_packages=(qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools)
+        wayland_packages=(qt6-wayland)
+        ;;
+    *)
+        echo "--qt is 5 or 6, not \"$qt\"" >&2
+        exit 2
+        ;;
+esac
 
 # is_there PACKAGE: on Debian, whether it is installed; elsewhere, whether what we use of it is found.
 is_there() {
@@ -17,9 +45,14 @@ is_there() {
         xvfb) command -v Xvfb ;;
         qtbase5-dev) pkg-config --exists 'Qt5Widgets >= 5.15' ;;
         libqt5svg5) [ -e "$(qmake -query QT_INSTALL_PLUGINS)/imageformats/libqsvg.so" ] ;;
+        qt6-base-dev) pkg-config --exists 'Qt6Widgets >= 6.4' ;;
+        libqt6svg6) [ -e "$(qmake6 -query QT_INSTALL_PLUGINS)/imageformats/libqsvg.so" ] ;;
         libbenchmark-dev) pkg-config --exists benchmark ;;
         doxygen-awesome-css) [ -d /usr/share/doxygen-awesome-css ] ;;
         qttools5-dev) [ -d "$(qmake -query QT_INSTALL_LIBS)/cmake/Qt5LinguistTools" ] ;;
+        qt6-tools-dev | qt6-tools-dev-tools | qt6-l10n-tools)
+            [ -d "$(qmake6 -query QT_INSTALL_LIBS)/cmake/Qt6LinguistTools" ]
+            ;;
         fonts-inter) fc-list | grep -q Inter ;;
         fonts-jetbrains-mono) fc-list | grep -q JetBrains ;;
         *) command -v "$1" ;;
@@ -45,24 +78,39 @@ need() {
         apt-get install -y -qq --no-install-recommends "${missing[@]}" > /dev/null
 }
 
+# folder_of PRESET: where it is built, which for Qt 6 is a folder of its own.
+folder_of() {
+    local suffix=
+    [ "$qt" = 5 ] || suffix=-qt$qt
+    echo "build/$1$suffix"
+}
+
 # build PRESET TARGET [CMAKE OPTION]...: configures and builds, quietly unless something fails.
 build() {
-    local preset=$1 target=$2 log=build/$1.log
+    local preset=$1 target=$2 folder log
+    folder=$(folder_of "$1")
+    log=$folder.log
     shift 2
-    echo "Building $target ($preset)"
+    echo "Building $target ($preset, Qt $qt)"
     mkdir -p build
-    cmake --preset "$preset" "$@" > "$log" 2>&1 \
-        && cmake --build --preset "$preset" --target "$target" > "$log" 2>&1 \
+    cmake --preset "$preset" -B "$folder" -DTAVIK_QT="$qt" "$@" > "$log" 2>&1 \
+        && cmake --build "$folder" --target "$target" > "$log" 2>&1 \
         || { cat "$log"; exit 1; }
+}
+
+# run_tests PRESET: those of a build, as many at a time as there are processors.
+run_tests() {
+    ctest --test-dir "$(folder_of "$1")" --output-on-failure --parallel "$(nproc)"
 }
 
 # open_application TARGET FOLDER HEADLESS [ARGUMENT]...: builds an application and starts it where the caller
 # stands. Without a display it can only write files: those that HEADLESS asks for, unless the arguments do.
 open_application() {
-    local target=$1 program=$PWD/build/release/$2/$1 headless=$3
+    local target=$1 headless=$3 program
+    program=$PWD/$(folder_of release)/$2/$1
     local packages=("${build_packages[@]}" "${font_packages[@]}")
     shift 3
-    [ -z "${WAYLAND_DISPLAY:-}" ] || packages+=(qtwayland5)
+    [ -z "${WAYLAND_DISPLAY:-}" ] || packages+=("${wayland_packages[@]}")
     need "${packages[@]}"
     build release "$target"
     cd "$caller"

@@ -117,9 +117,10 @@ void Support::hover(QWidget *widget)
 {
     // A button shows its hover look only after a move, an Enter event alone does not do it.
     const QPointF centre = QRectF(widget->rect()).center();
-    QEnterEvent enter(centre, centre, widget->mapToGlobal(centre.toPoint()));
+    const QPointF onScreen = widget->mapToGlobal(centre.toPoint());
+    QEnterEvent enter(centre, centre, onScreen);
     QApplication::sendEvent(widget, &enter);
-    QMouseEvent move(QEvent::MouseMove, centre, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QMouseEvent move(QEvent::MouseMove, centre, onScreen, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
     QApplication::sendEvent(widget, &move);
 }
 

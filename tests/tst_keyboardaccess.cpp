@@ -77,6 +77,8 @@ int percent(double fraction)
     return qRound(fraction * 100);
 }
 
+constexpr int control = Qt::CTRL;
+
 } // namespace
 
 void TestKeyboardAccess::square()
@@ -91,9 +93,9 @@ void TestKeyboardAccess::square()
         {{Qt::Key_Up}, 40, 81},
         {{Qt::Key_PageUp}, 40, 90},
         {{Qt::Key_PageDown, Qt::Key_PageDown}, 40, 60},
-        {{Qt::CTRL + Qt::Key_PageUp, Qt::CTRL + Qt::Key_PageUp, Qt::CTRL + Qt::Key_PageDown}, 50, 80},
-        {{Qt::Key_Home, Qt::Key_Right, Qt::CTRL + Qt::Key_Home}, 1, 0},
-        {{Qt::Key_End, Qt::Key_Right, Qt::CTRL + Qt::Key_End, Qt::Key_PageUp}, 100, 100}, // stays inside
+        {{control + Qt::Key_PageUp, control + Qt::Key_PageUp, control + Qt::Key_PageDown}, 50, 80},
+        {{Qt::Key_Home, Qt::Key_Right, control + Qt::Key_Home}, 1, 0},
+        {{Qt::Key_End, Qt::Key_Right, control + Qt::Key_End, Qt::Key_PageUp}, 100, 100}, // stays inside
     };
     for (const auto &row : rows) {
         Stage<TavikColorPicker> stage(190, 136);

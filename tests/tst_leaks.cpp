@@ -57,6 +57,18 @@ void turnThreadCacheOff(char **argv)
     }
 }
 
+/// What the toolkit itself keeps of a popup and a window that come and go: nothing in Qt 5, 73 bytes each in Qt 6.4.
+double growthOfPlainWindows()
+{
+    QWidget popup(nullptr, Qt::Popup);
+    return growth(100, [&](int) {
+        popup.show();
+        QWidget window;
+        window.showFullScreen(); // which closes the popup
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+    });
+}
+
 void finishDeletions()
 {
     QCoreApplication::processEvents();
@@ -98,7 +110,8 @@ void TestLeaks::samplers()
         finishDeletions();
     });
     QCOMPARE(picked, 75);
-    QVERIFY2(bytes < 64, QByteArray::number(bytes).constData());
+    const double plain = growthOfPlainWindows();
+    QVERIFY2(bytes < plain + 64, QByteArray::number(bytes - plain).constData());
 }
 
 /// On a real screen, where the sampler finds colours.

@@ -258,7 +258,8 @@ void TestSampler::outsideThePicture()
 {
     QCursor::setPos(300, 300);
     const Run run;
-    QMouseEvent move(QEvent::MouseMove, QPointF(-3, 10), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    const QPointF outside(-3, 10);
+    QMouseEvent move(QEvent::MouseMove, outside, outside, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
     QApplication::sendEvent(run.window.get(), &move);
     QCoreApplication::processEvents();
     QCOMPARE(run.frame->pos(), QPoint(1, 36));
@@ -342,7 +343,7 @@ int runOnPlatform(int argc, char **argv)
 {
     const QApplication app(argc, argv);
     QApplication::setStyle(QStringLiteral("Fusion"));
-    if (QGuiApplication::platformName() == QLatin1String("offscreen"))
+    if (QGuiApplication::platformName() == QLatin1String("minimal"))
         return runTest<TestSamplerBlind>(argc, argv);
     if (app.devicePixelRatio() > 1)
         return runTest<TestSamplerScaled>(argc, argv);
@@ -355,7 +356,7 @@ int runOnPlatform(int argc, char **argv)
 /// environment asks for it.
 int main(int argc, char **argv)
 {
-    if (qgetenv("QT_QPA_PLATFORM") == "offscreen") {
+    if (qgetenv("QT_QPA_PLATFORM") == "minimal") {
         forgetSurroundings();
         return runOnPlatform(argc, argv);
     }

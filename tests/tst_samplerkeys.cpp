@@ -30,7 +30,7 @@ void TestSamplerKeys::picks_data()
     QTest::newRow("where it is") << Keys{Qt::Key_Return} << QPoint(0, 0) << QPoint();
     QTest::newRow("arrows") << Keys{Qt::Key_Right, Qt::Key_Right, Qt::Key_Up, Qt::Key_Space}
                             << QPoint(2, -1) << QPoint();
-    QTest::newRow("ten") << Keys{Qt::Key_PageDown, Qt::SHIFT + Qt::Key_Left, Qt::Key_Enter}
+    QTest::newRow("ten") << Keys{Qt::Key_PageDown, int(Qt::SHIFT) + Qt::Key_Left, Qt::Key_Enter}
                          << QPoint(-10, 10) << QPoint();
     QTest::newRow("left without") << Keys{Qt::Key_Down, Qt::Key_Escape} << QPoint() << QPoint();
     QTest::newRow("where it is, elsewhere") << Keys{Qt::Key_Return} << QPoint(0, 0) << QPoint(150, 90);

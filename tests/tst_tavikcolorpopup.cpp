@@ -254,7 +254,7 @@ void TestTavikColorPopup::typing()
     const QColor color = popup.currentColor();
     QCOMPARE(color.isValid(), keys != QLatin1String("<abcd"));
     QCOMPARE(color.alpha(), edit(popup, A)->text().toInt());
-    QCOMPARE(slider(popup, TavikColorSilder::Hue)->value(), qMax(0, int(color.hueF() * 360)));
+    QCOMPARE(slider(popup, TavikColorSilder::Hue)->value(), qMax(0, int(color.hueF() * 360.0)));
 }
 
 void TestTavikColorPopup::order()

@@ -72,7 +72,7 @@ void TestTavikLineEdit::typing()
     QTest::keyClicks(&edit, typed);
     QTest::keyClick(&edit, Qt::Key_Return);
     QTEST(edit.text(), "text");
-    QTEST(finished.count(), "finished");
+    QTEST(int(finished.count()), "finished");
 }
 
 void TestTavikLineEdit::rewriteIsSilentAndFirst()
@@ -135,9 +135,9 @@ void TestTavikLineEdit::setContent()
     QFETCH(QVariant, value);
     TavikLineEdit edit(QString(), type);
     const QSignalSpy changed(&edit, &QLineEdit::textChanged);
-    if (value.type() == QVariant::Int)
+    if (value.userType() == QMetaType::Int)
         edit.setContent(value.toInt());
-    else if (value.type() == QVariant::Double)
+    else if (value.userType() == QMetaType::Double)
         edit.setContent(value.toDouble());
     else
         edit.setContent(value.toString());

@@ -110,7 +110,8 @@ QListWidgetItem *PhotoPanel::addTile(const Photograph &photograph)
     const QPixmap thumbnail = QPixmap::fromImage(photograph.cover(m_list->iconSize()));
     QIcon icon(thumbnail);
     icon.addPixmap(thumbnail, QIcon::Selected); // or the toolkit tints the chosen one
-    auto *item = new QListWidgetItem(icon, QString(), m_list);
+    auto *item = new QListWidgetItem(m_list);
+    item->setIcon(icon); // without a text, for which Qt 6 leaves a line even where it is empty
     item->setData(Qt::UserRole, photograph.name());
     item->setToolTip(Photograph::title(photograph.name()));
     return item;

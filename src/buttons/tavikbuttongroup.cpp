@@ -52,7 +52,7 @@ TavikButtonGroup::TavikButtonGroup(Direction direction, const PixelLengths &leng
     m_group = new QButtonGroup(this);
     if (mode == Exclusive || mode == NonExclusive)
         m_group->setExclusive(mode == Exclusive);
-    connect(m_group, SIGNAL(buttonClicked(int)), this, SLOT(onButtonClicked(int)));
+    connect(m_group, &QButtonGroup::idClicked, this, &TavikButtonGroup::onButtonClicked);
 }
 
 TavikButtonGroup::TavikButtonGroup(Direction direction, double fontRemSz, const QSizeF &btnRemSz, Mode mode,

@@ -1,9 +1,11 @@
 #include "color/hsvsquare_p.h"
 
+#include <QColor>
+
 #include <vector>
 
 // The toolkit's arithmetic, step by step: components are rounded to 16 bits before and after the
-// conversion, all else is double, and 16 bits come to 8 by a rounded division. What depends on the column
+// conversion, all else is Real, and 16 bits come to 8 by a rounded division. What depends on the column
 // alone is worked out once, and the loop that is left is plain enough for the compiler to vectorise.
 
 // Where the processor can work on twice as many pixels at a time, let it: chosen when the library is
@@ -16,17 +18,20 @@
 
 namespace {
 
-constexpr double fullScale = 65535;
+/// What the toolkit's colours count in: double in Qt 5, float in Qt 6.
+using Real = decltype(QColor().hueF());
 
-double component(double share)
+constexpr Real fullScale = 65535;
+
+Real component(Real share)
 {
     return qRound(share * fullScale) / fullScale;
 }
 
-inline quint32 byte(double share)
+inline quint32 byte(Real share)
 {
     const int rounded =
-        int(share * fullScale + 0.5) + 128; // NOLINT(bugprone-incorrect-roundings): as the toolkit
+        int(share * fullScale + Real(0.5)) + 128; // NOLINT(bugprone-incorrect-roundings): as the toolkit
     return quint32(rounded - (rounded >> 8)) >> 8;
 }
 
@@ -46,25 +51,25 @@ constexpr Shifts sixths[] = {{red, green, blue}, {green, red, blue}, {green, blu
 /// One hue: its sixth, and how strongly saturation takes from the middle and from the smallest channel.
 struct Hue
 {
-    explicit Hue(double hue)
+    explicit Hue(Real hue)
     {
-        if (hue == -1.0)
+        if (hue == Real(-1))
             return;
-        const double sixth = qRound(hue * 36000) % 36000 / 6000.0;
+        const Real sixth = Real(qRound(hue * 36000) % 36000) / 6000;
         const int index = int(sixth);
-        const double fraction = sixth - index;
+        const Real fraction = sixth - Real(index);
         shifts = sixths[index];
-        middle = index % 2 != 0 ? fraction : 1.0 - fraction;
-        smallest = 1.0;
+        middle = index % 2 != 0 ? fraction : 1 - fraction;
+        smallest = 1;
     }
 
     Shifts shifts = sixths[0];
-    double middle = 0.0;
-    double smallest = 0.0;
+    Real middle = 0;
+    Real smallest = 0;
 };
 
-TAVIK_WIDER_CLONE void fillRow(quint32 *pixels, int width, double value, const double *middle,
-                               const double *smallest, const Shifts &shifts)
+TAVIK_WIDER_CLONE void fillRow(quint32 *pixels, int width, Real value, const Real *middle,
+                               const Real *smallest, const Shifts &shifts)
 {
     const quint32 largest = 0xff000000 | byte(value) << shifts.largest;
     const int middleShift = shifts.middle;
@@ -79,15 +84,15 @@ void fillRows(QImage &image, const Hue &hue)
 {
     const int width = image.width();
     const int height = image.height();
-    std::vector<double> middle;
-    std::vector<double> smallest;
+    std::vector<Real> middle;
+    std::vector<Real> smallest;
     for (int x = 0; x < width; ++x) {
-        const double saturation = component(double(x) / width);
-        middle.push_back(1.0 - saturation * hue.middle);
-        smallest.push_back(1.0 - saturation * hue.smallest);
+        const Real saturation = component(Real(x) / Real(width));
+        middle.push_back(1 - saturation * hue.middle);
+        smallest.push_back(1 - saturation * hue.smallest);
     }
     for (int y = 0; y < height; ++y) {
-        const double value = component(double(height - y) / height);
+        const Real value = component(Real(height - y) / Real(height));
         fillRow(reinterpret_cast<quint32 *>(image.scanLine(y)), width, value, middle.data(),
                 smallest.data(), hue.shifts);
     }
@@ -97,8 +102,9 @@ void fillRows(QImage &image, const Hue &hue)
 
 void HsvSquare::fill(QImage &image, double hue)
 {
-    if (hue == -1.0 || (hue >= 0.0 && hue <= 1.0))
-        fillRows(image, Hue(hue));
+    const auto rounded = Real(hue); // as the toolkit takes it
+    if (rounded == Real(-1) || (rounded >= 0 && rounded <= 1))
+        fillRows(image, Hue(rounded));
     else
         image.fill(Qt::black);
 }

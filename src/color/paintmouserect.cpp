@@ -88,7 +88,7 @@ void PaintMouseRect::paintOutline(QPainter &painter) const
 void PaintMouseRect::paintNumbers(QPainter &painter) const
 {
     painter.setPen(Qt::white);
-    const int ascent = painter.fontMetrics().ascent();
-    painter.drawStaticText(6, height() - 24 - ascent, m_rgb);
-    painter.drawStaticText(6, height() - 7 - ascent, m_cmy);
+    const qreal ascent = QFontMetricsF(painter.font()).ascent();
+    painter.drawStaticText(QPointF(6, height() - 24 - ascent), m_rgb);
+    painter.drawStaticText(QPointF(6, height() - 7 - ascent), m_cmy);
 }

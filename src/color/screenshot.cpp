@@ -3,7 +3,6 @@
 #include "color/paintmouserect_p.h"
 
 #include <QApplication>
-#include <QDesktopWidget>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
@@ -24,9 +23,16 @@ Screenshot::Screenshot(QWidget *parent)
     setAttribute(Qt::WA_MouseTracking, true);
     // An application whose own windows are hidden while it samples goes on when this one closes.
     setAttribute(Qt::WA_QuitOnClose, false);
-    const QPoint pointer = QCursor::pos();
-    Q_EMIT cursorPosChange(pointer.x(), pointer.y()); // to the frame; clazy:exclude=incorrect-emit
+    const QPoint start = pointer();
+    Q_EMIT cursorPosChange(start.x(), start.y()); // to the frame; clazy:exclude=incorrect-emit
     show();
+}
+
+QPoint Screenshot::pointer()
+{
+    const QPoint pos = QCursor::pos();
+    const QScreen *screen = QGuiApplication::primaryScreen();
+    return screen->virtualGeometry().contains(pos) ? pos : screen->geometry().center();
 }
 
 void Screenshot::moveTo(const QPoint &pos)
@@ -53,7 +59,7 @@ void Screenshot::mousePressEvent(QMouseEvent *event)
 
 void Screenshot::mouseMoveEvent(QMouseEvent *event)
 {
-    Q_EMIT cursorPosChange(event->x(), event->y());
+    Q_EMIT cursorPosChange(event->pos().x(), event->pos().y());
     QWidget::mouseMoveEvent(event);
 }
 
@@ -81,8 +87,7 @@ void Screenshot::paintEvent(QPaintEvent *)
 /// Takes the picture of the whole virtual desktop, over all screens.
 void Screenshot::grabDesktop()
 {
-    const QDesktopWidget *desktop = QApplication::desktop();
-    m_desktopRect = QRect(desktop->pos(), desktop->size());
+    m_desktopRect = QGuiApplication::primaryScreen()->virtualGeometry();
     m_grabbedPixmap = std::make_shared<QPixmap>(QGuiApplication::primaryScreen()->grabWindow(
         0, m_desktopRect.x(), m_desktopRect.y(), m_desktopRect.width(), m_desktopRect.height()));
     m_backgroundPixmap = std::make_shared<QPixmap>(*m_grabbedPixmap);

@@ -31,6 +31,10 @@ public:
     /// Takes the picture of the desktop, the only one of the run, and shows the window.
     explicit Screenshot(QWidget *parent);
 
+    /// Where the pointer is on the desktop; in the middle of the primary screen while the toolkit has not seen it
+    /// on any, as it may be where the platform does not tell.
+    static QPoint pointer();
+
     /// Moves the frame as the pointer at a position does, in pixels of the window. Once the window is on the screen, it
     /// reads the colour there at once: the next call may be pick().
     void moveTo(const QPoint &pos);

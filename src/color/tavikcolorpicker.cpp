@@ -8,6 +8,18 @@
 
 #include <limits>
 
+namespace {
+
+/// The colour of a hue; where the toolkit refuses it, the old one, which Qt 6 makes invalid then.
+QColor withHsv(const QColor &old, double hue, double saturation, double value)
+{
+    QColor color = old;
+    color.setHsvF(hue, saturation, value, 1.0);
+    return color.isValid() ? color : old;
+}
+
+} // namespace
+
 TavikColorPicker::TavikColorPicker(const int &width, const int &height, QWidget *parent)
     : QWidget(parent)
 {
@@ -61,7 +73,7 @@ void TavikColorPicker::updateSelectedColor(int x, int y)
         return;
     const double saturation = double(x) / m_width;
     const double value = 1.0 - double(y) / m_height;
-    m_color.setHsvF(m_hue, saturation, value, 1.0);
+    m_color = withHsv(m_color, m_hue, saturation, value);
     update();
     Q_EMIT colorChanged(m_color);
 }

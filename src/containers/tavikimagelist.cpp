@@ -37,9 +37,19 @@ void TavikImageList::setIconRemSz(const double &remWidth, const double &remHeigh
 void TavikImageList::addImage(const QString &fileName)
 {
     auto *item = new QListWidgetItem(this);
-    // The icon size, or what the toolkit takes while there is none.
-    const QImage image = Thumbnail::read(fileName, viewOptions().decorationSize);
+    const QImage image = Thumbnail::read(fileName, decorationSize());
     item->setData(Qt::DecorationRole, QIcon(QPixmap::fromImage(image)));
+}
+
+QSize TavikImageList::decorationSize() const
+{
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    return viewOptions().decorationSize;
+#else
+    QStyleOptionViewItem option;
+    initViewItemOption(&option);
+    return option.decorationSize;
+#endif
 }
 
 void TavikImageList::showEvent(QShowEvent *event)

@@ -43,6 +43,10 @@ public:
 
 protected:
     void showEvent(QShowEvent *event) override;
+
+private:
+    /// The icon size, or what the toolkit takes while there is none.
+    QSize decorationSize() const;
 };
 
 #endif

@@ -12,7 +12,7 @@ namespace {
 /// Drawn, because a plugin that is listed may still fail to load.
 bool canDrawSvg()
 {
-    const char picture[] = "<svg xmlns='http://www.w3.org/2000/svg' width='1' height='1'/>";
+    const QByteArray picture = "<svg xmlns='http://www.w3.org/2000/svg' width='1' height='1'/>";
     return !QImage::fromData(picture, "svg").isNull();
 }
 

@@ -23,6 +23,15 @@ constexpr char borderRadius[] = ""; // corners stay square
 
 constexpr int noDecimals = -1;
 
+/// Leaves what was typed as it is. Qt 6 takes grouping signs out: "1.5" would become "15.0" in German, unseen.
+class DecimalValidator : public QDoubleValidator
+{
+public:
+    using QDoubleValidator::QDoubleValidator;
+
+    void fixup(QString &) const override {}
+};
+
 } // namespace
 
 TavikLineEdit::TavikLineEdit(const QString &placeholder, Type type, Qt::Alignment alignment,
@@ -149,7 +158,7 @@ void TavikLineEdit::initValidator()
 
 void TavikLineEdit::installDecimalValidator()
 {
-    auto *validator = new QDoubleValidator(-9999.0, 9999.0, decimals(), this);
+    auto *validator = new DecimalValidator(-9999.0, 9999.0, decimals(), this);
     validator->setNotation(QDoubleValidator::StandardNotation);
     setValidator(validator);
     // Connected before any client can be, so that clients find the rewritten text.

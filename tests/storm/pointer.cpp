@@ -117,7 +117,10 @@ Deed wheel(Random &random)
         QWheelEvent event(local, receiver->mapToGlobal(local), {}, turn, Qt::NoButton, Qt::NoModifier,
                           Qt::NoScrollPhase, false);
         QSpontaneKeyEvent::setSpontaneous(&event);
+        const QWidget *focused = QApplication::focusWidget();
         qApp->notify(receiver, &event);
+        if (QApplication::focusWidget() != focused)
+            return; // a field that loses the focus to it ends its editing, and a trap there may set the value
         if (control && leavesTheWheel(control) && control->property("value").toString() != before)
             Finding::end(QStringLiteral("The wheel has changed the value"));
     });

@@ -52,7 +52,8 @@ Deed endSampler(Random &random)
         {"move",
          [](QWidget *w, QPoint pos) {
              // Not by the test library, which then processes all events.
-             QMouseEvent event(QEvent::MouseMove, pos, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+             QMouseEvent event(QEvent::MouseMove, pos, w->mapToGlobal(pos), Qt::NoButton, Qt::NoButton,
+                               Qt::NoModifier);
              QApplication::sendEvent(w, &event);
          }},
         {"close", [](QWidget *w, QPoint) { w->close(); }},

@@ -13,7 +13,7 @@ constexpr int farStep = 10; // pixels
 
 SamplerKeys::SamplerKeys(Screenshot *sampler)
     : QObject(sampler)
-    , m_pos(sampler->mapFromGlobal(QCursor::pos()))
+    , m_pos(sampler->mapFromGlobal(Screenshot::pointer()))
 {
     sampler->installEventFilter(this);
     sampler->activateWindow();
