@@ -122,10 +122,10 @@ void TestClasses::sheetsOfChangedControls()
         combo.view()->styleSheet(),
         resized("combobox-view-12").replace(QLatin1String("height: 20px"), QLatin1String("height: 30px")));
     TavikLineEdit edit;
-    edit.setFontPxSz(27);
+    edit.setFontRemSz(1.5);
     QCOMPARE(edit.styleSheet(), resized("lineedit-12"));
     edit.setFontRemSz(2);
-    edit.setFontRemSz(1.5);
+    edit.setFontPxSz(27);
     QCOMPARE(edit.styleSheet(), resized("lineedit-12"));
     TavikDoubleSpinbox fraction;
     fraction.setFontRemSz(1.5);

@@ -77,6 +77,7 @@ void TestColorControls::sliderColours()
     for (int sixth = 0; sixth <= 6; ++sixth)
         QCOMPARE(hue.colors().value(sixth).rgb(), QColor::fromHsv(sixth % 6 * 60, 255, 255).rgb());
     const TavikColorSilder alpha(166, 16, TavikColorSilder::Alpha);
+    QCOMPARE(alpha.maximum(), 255);
     for (int a = 0; a < 256; ++a)
         QCOMPARE(alpha.colors().value(a), QColor(0, 0, 0, a));
 

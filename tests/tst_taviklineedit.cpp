@@ -58,6 +58,7 @@ void TestTavikLineEdit::typing_data()
     add("no exponents", TavikLineEdit::OneDecimal, "1e3", "13.0");
     add("two decimals", TavikLineEdit::TwoDecimals, "1.5", "1.50");
     add("beyond the top", TavikLineEdit::TwoDecimals, "99999", "9999.00");
+    add("beyond the bottom", TavikLineEdit::TwoDecimals, "-99999", "-9999.00");
     add("hexadecimal digits", TavikLineEdit::HexDigits, "fxA0g1234", "fA0123");
     add("none of six is required", TavikLineEdit::HexDigits, "7", "7");
 }
