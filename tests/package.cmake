@@ -103,7 +103,7 @@ refuse_tavik("requested version \"99.0\"" -D VERSION=99.0)
 # Beside the package of the other Qt, the one that fits is taken; alone, it is not taken for the other.
 execute_process(COMMAND pkg-config --exists Qt${other_qt}Widgets RESULT_VARIABLE other_is_missing)
 if(NOT other_is_missing)
-    find_tavik("${prefix}" ${QT} -D FIRST=newest -D CMAKE_DISABLE_FIND_PACKAGE_Qt${other_qt}=ON)
+    find_tavik("${prefix}" ${QT} -D FIRST=${QT})
     refuse_tavik("for Qt ${QT}, where the project has chosen Qt ${other_qt}" -D FIRST=${other_qt})
     build_library(library-of-other ${other_qt})
     foreach(library IN ITEMS library-ON library-of-other)
