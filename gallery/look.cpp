@@ -1,5 +1,7 @@
 #include "look.h"
 
+#include "common/sharpicons.h"
+
 #include <QApplication>
 #include <QFontDatabase>
 #include <QHBoxLayout>
@@ -32,6 +34,7 @@ bool isInstalled(const QString &family)
 
 void Look::apply(QApplication &app)
 {
+    drawIconsSharply();
     app.setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     app.setPalette(lightPalette());
     QFont font = app.font();

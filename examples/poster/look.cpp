@@ -1,6 +1,7 @@
 #include "look.h"
 
 #include "common/comboplace.h"
+#include "common/sharpicons.h"
 
 #include <QApplication>
 #include <QFontDatabase>
@@ -14,6 +15,7 @@
 
 void Look::apply(QApplication &app)
 {
+    drawIconsSharply();
     QStyle *style = QStyleFactory::create(QStringLiteral("Fusion"));
     app.setStyle(style);
     app.setPalette(style->standardPalette());
