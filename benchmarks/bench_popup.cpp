@@ -17,7 +17,7 @@ constexpr int steps = 40; // in one measured round
 
 void sendMouse(QEvent::Type type, QWidget *widget, const QPoint &pos)
 {
-    QMouseEvent event(type, pos, Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+    QMouseEvent event(type, pos, widget->mapToGlobal(pos), Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(widget, &event);
 }
 
