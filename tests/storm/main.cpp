@@ -29,6 +29,11 @@ public:
             return true;
         if (!receiver->isWidgetType())
             return QApplication::notify(receiver, event);
+        const QPointer<QObject> alive = receiver;
+        if (event->type() == QEvent::DeferredDelete)
+            Stage::closeLists(receiver);
+        if (!alive)
+            return true;
         const Busy busy(receiver, Busy::Buttons, event->type());
         return QApplication::notify(receiver, event);
     }

@@ -4,6 +4,7 @@
 #include "busy.h"
 
 #include <QApplication>
+#include <QComboBox>
 
 #include <algorithm>
 
@@ -80,10 +81,27 @@ void Stage::replace(int slot, QWidget *control)
 
 void Stage::destroy(QWidget *control)
 {
-    if (Busy::needs(control))
-        control->deleteLater();
+    const QPointer<QWidget> victim = control;
+    closeLists(victim);
+    if (victim && Busy::needs(victim))
+        victim->deleteLater();
     else
-        delete control;
+        delete victim;
+}
+
+void Stage::closeLists(const QObject *object)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    std::vector<QPointer<QComboBox>> boxes;
+    for (QComboBox *box : object->findChildren<QComboBox *>())
+        boxes.emplace_back(box);
+    for (const QPointer<QComboBox> &box : boxes) {
+        if (box)
+            box->hidePopup();
+    }
+#else
+    Q_UNUSED(object)
+#endif
 }
 
 void Stage::adopt(int slot, QWidget *control)

@@ -46,6 +46,10 @@ public:
     /// Deletes a control at once; or later, as applications must, if something goes on in it. See Busy.
     static void destroy(QWidget *control);
 
+    /// Closes the lists that have dropped down in what is about to go, which Qt 6 does not survive: `openList` of
+    /// `tavik-toolkit-faults` shows it.
+    static void closeLists(const QObject *object);
+
     /// Lives as long as all that is connected here shall work.
     QObject *wires() const { return m_wires.get(); }
 

@@ -1,11 +1,13 @@
 // What the toolkit does not survive with its own widgets alone: tavik-toolkit-faults FAULT. All but the last one
-// crash, under the sanitizers always; the storm leaves them out, see busy.cpp. It runs by hand, because a crash
+// crash, under the sanitizers always, openList with Qt 6 alone; the storm leaves them out, see busy.cpp. It runs by hand, because a crash
 // that another version of the toolkit does not have is no fault of ours.
 
 #include <QApplication>
+#include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QTest>
 
 #include <map>
@@ -109,6 +111,21 @@ void nextSibling()
     window.hide();
 }
 
+/// A panel goes in which a list has dropped down: Qt 6 gives the focus back to a button between its children.
+void openList()
+{
+    QWidget window;
+    auto *panel = new QWidget(&window);
+    auto *box = new QComboBox(panel);
+    box->addItem(QStringLiteral("one"));
+    auto *button = new QRadioButton(panel);
+    window.show();
+    QApplication::setActiveWindow(&window);
+    button->setFocus();
+    box->showPopup();
+    delete panel;
+}
+
 /// A double click into what an input method has not finished puts the cursor behind the text; the next key warns.
 void cursorBehindText()
 {
@@ -136,6 +153,7 @@ int main(int argc, char **argv)
         {"disabledButton", disabledButton},
         {"nextShown", nextSibling<QEvent::Show>},
         {"nextHidden", nextSibling<QEvent::Hide>},
+        {"openList", openList},
         {"cursorBehindText", cursorBehindText},
     };
     const auto fault = faults.find(argc > 1 ? argv[1] : "");
