@@ -77,7 +77,7 @@ int percent(double fraction)
     return qRound(fraction * 100);
 }
 
-constexpr int control = Qt::CTRL;
+constexpr int ctrl = Qt::CTRL;
 
 } // namespace
 
@@ -93,9 +93,9 @@ void TestKeyboardAccess::square()
         {{Qt::Key_Up}, 40, 81},
         {{Qt::Key_PageUp}, 40, 90},
         {{Qt::Key_PageDown, Qt::Key_PageDown}, 40, 60},
-        {{control + Qt::Key_PageUp, control + Qt::Key_PageUp, control + Qt::Key_PageDown}, 50, 80},
-        {{Qt::Key_Home, Qt::Key_Right, control + Qt::Key_Home}, 1, 0},
-        {{Qt::Key_End, Qt::Key_Right, control + Qt::Key_End, Qt::Key_PageUp}, 100, 100}, // stays inside
+        {{ctrl + Qt::Key_PageUp, ctrl + Qt::Key_PageUp, ctrl + Qt::Key_PageDown}, 50, 80},
+        {{Qt::Key_Home, Qt::Key_Right, ctrl + Qt::Key_Home}, 1, 0},
+        {{Qt::Key_End, Qt::Key_Right, ctrl + Qt::Key_End, Qt::Key_PageUp}, 100, 100}, // stays inside
     };
     for (const auto &row : rows) {
         Stage<TavikColorPicker> stage(190, 136);

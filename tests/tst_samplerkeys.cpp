@@ -36,6 +36,8 @@ void TestSamplerKeys::picks_data()
     QTest::newRow("where it is, elsewhere") << Keys{Qt::Key_Return} << QPoint(0, 0) << QPoint(150, 90);
     QTest::newRow("arrows, elsewhere")
         << Keys{Qt::Key_Right, Qt::Key_Space} << QPoint(1, 0) << QPoint(150, 90);
+    QTest::newRow("from another screen") // to the nearest place on the sampler's
+        << Keys{Qt::Key_Right, Qt::Key_Space} << QPoint(101, 100) << QPoint(400, 500);
 }
 
 bool TestSamplerKeys::eventFilter(QObject *watched, QEvent *event)

@@ -39,6 +39,9 @@ QString Photograph::read(const QString &file)
     if (!info.isFile()) // a pipe would never end, and the toolkit completes a name that there is not
         return info.exists() ? tr("it is no file") : tr("there is no such file");
     QImageReader reader(file);
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    QImageReader::setAllocationLimit(0); // we have a limit of our own
+#endif
     reader.setAutoTransform(true); // a camera held upright says so in its file
     const QSize size = reader.size();
     const int bits = QImage::toPixelFormat(reader.imageFormat()).bitsPerPixel();

@@ -78,8 +78,9 @@ public:
     /// remExpandHeightChanged(); a closed one opens to it next time.
     ///
     /// A run that is under way knows nothing of it: it goes on to the height that it was started with, and
-    /// leaves the panel there. A new panel runs for its first half second. Ask for a run of your own, and the
-    /// panel opens to the new height in any case:
+    /// leaves the panel there. A new panel runs for its first half second. Ask for a run of your own then, and the
+    /// panel opens to the new height in any case; one that is open and at rest needs none, and would play its
+    /// opening again:
     /// \code
     /// panel->updateExpandedHeight(8.0);
     /// panel->expand();

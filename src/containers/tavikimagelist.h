@@ -36,9 +36,10 @@ public:
     ///
     /// So does one that would hold the application up: what is no regular file, as a pipe or a device; a picture
     /// of more than 67 million pixels (2^26; the largest screens have half of that, and one of 64 bits a pixel
-    /// counts twice), unless its format can be read at the icon size, as a JPEG can that is not progressive, which
+    /// counts twice), unless its format can be read at the icon size, as a JPEG of one scan can, which
     /// then gives slightly other pixels and ends at 2^28; and any picture while the icon size has more than 2^26
-    /// pixels. Pictures within pictures, as in ICO and SVG files, are not looked at.
+    /// pixels. With Qt 6 QImageReader::allocationLimit() comes first: 128 megabytes, which are 2^25 pixels, unless the
+    /// application sets another. Pictures within pictures, as in ICO and SVG files, are not looked at.
     void addImage(const QString &fileName);
 
 protected:

@@ -33,12 +33,14 @@ bool mayBePicture(const QString &fileName)
     });
 }
 
-/// Whether a file is a JPEG that is not progressive: one that is needs all its memory also at a smaller size.
-bool isSequentialJpeg(const QString &fileName)
+/// Whether a file is a JPEG of one scan: one of several, as progressive ones are, needs all its memory also at a
+/// smaller size.
+bool isJpegOfOneScan(const QString &fileName)
 {
     QFile file(fileName);
     if (!file.open(QIODevice::ReadOnly) || file.read(2) != QByteArray("\xff\xd8"))
         return false;
+    int components = 0;
     for (;;) {
         const QByteArray head =
             file.read(4); // 0xff, the kind of segment, and its length with these two bytes
@@ -46,10 +48,14 @@ bool isSequentialJpeg(const QString &fileName)
             return false;
         const quint8 kind = quint8(head.at(1));
         const bool isFrame = kind >= 0xc0 && kind <= 0xcf && kind != 0xc4 && kind != 0xc8 && kind != 0xcc;
-        if (isFrame)
-            return kind <= 0xc1;
-        if (!file.seek(file.pos() + quint8(head.at(2)) * 256 + quint8(head.at(3)) - 2))
+        const int length = quint8(head.at(2)) * 256 + quint8(head.at(3)) - 2;
+        const QByteArray segment = file.read(std::max(0, length));
+        if (segment.size() != length || (isFrame && (kind > 0xc1 || length < 6)))
             return false;
+        if (isFrame)
+            components = quint8(segment.at(5));
+        else if (kind == 0xda) // the first scan, which begins with how many components it has
+            return length > 0 && quint8(segment.at(0)) == components;
     }
 }
 
@@ -57,7 +63,7 @@ bool isScaledWhileRead(const QImageReader &reader)
 {
     const QByteArray format = reader.format();
     if (format == "jpeg" || format == "jpg")
-        return isSequentialJpeg(reader.fileName());
+        return isJpegOfOneScan(reader.fileName());
     // PNG says so too, but takes as long, and for some files as much memory, as to read it whole.
     return format != "png" && reader.supportsOption(QImageIOHandler::ScaledSize);
 }
@@ -69,6 +75,17 @@ qint64 weight(const QImageReader &reader)
     return pixels(reader.size()) * std::max(1, bits / 32);
 }
 
+/// What is read whole: what the largest screens have, and no more than Qt 6 lets its readers take.
+qint64 mostWholePixels()
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    const qint64 megabytes = QImageReader::allocationLimit(); // 0 for none
+    if (megabytes > 0)
+        return std::min(Thumbnail::mostPixels, megabytes * 1024 * 1024 / 4);
+#endif
+    return Thumbnail::mostPixels;
+}
+
 } // namespace
 
 QImage Thumbnail::read(const QString &fileName, const QSize &size)
@@ -77,7 +94,7 @@ QImage Thumbnail::read(const QString &fileName, const QSize &size)
         return {};
     QImageReader reader(fileName);
     const qint64 count = weight(reader);
-    if (count > mostPixels) {
+    if (count > mostWholePixels()) {
         if (count > mostScaledPixels || !isScaledWhileRead(reader))
             return {};
         reader.setScaledSize(size);

@@ -1,6 +1,6 @@
 // What the toolkit does not survive with its own widgets alone: tavik-toolkit-faults FAULT. All but the last one
-// crash, under the sanitizers always, openList with Qt 6 alone; the storm leaves them out, see busy.cpp. It runs by hand, because a crash
-// that another version of the toolkit does not have is no fault of ours.
+// crash, under the sanitizers always, openList with Qt 6 alone; the storm leaves them out, see busy.cpp. It runs by
+// hand, because a crash that another version of the toolkit does not have is no fault of ours.
 
 #include <QApplication>
 #include <QComboBox>

@@ -9,11 +9,16 @@ namespace {
 
 constexpr int farStep = 10; // pixels
 
+QPoint inside(const QWidget *window, const QPoint &pos)
+{
+    return {qBound(0, pos.x(), window->width() - 1), qBound(0, pos.y(), window->height() - 1)};
+}
+
 } // namespace
 
 SamplerKeys::SamplerKeys(Screenshot *sampler)
     : QObject(sampler)
-    , m_pos(sampler->mapFromGlobal(Screenshot::pointer()))
+    , m_pos(inside(sampler, sampler->mapFromGlobal(Screenshot::pointer()))) // it may be on another screen
 {
     sampler->installEventFilter(this);
     sampler->activateWindow();
@@ -63,8 +68,7 @@ bool SamplerKeys::press(const QKeyEvent &key)
 
 bool SamplerKeys::moveBy(int right, int down, bool isFar)
 {
-    const QPoint wanted = m_pos + QPoint(right, down) * (isFar ? farStep : 1);
-    m_pos = {qBound(0, wanted.x(), sampler()->width() - 1), qBound(0, wanted.y(), sampler()->height() - 1)};
+    m_pos = inside(sampler(), m_pos + QPoint(right, down) * (isFar ? farStep : 1));
     QCursor::setPos(sampler()->mapToGlobal(m_pos));
     // Not every platform lets an application move the pointer.
     sampler()->moveTo(m_pos);
